@@ -1,0 +1,66 @@
+// SPDX-FileCopyrightText: 2026 The tonefret developers
+// SPDX-License-Identifier: MIT
+#include "mainscreen/keyboard.h"
+
+#include <algorithm>
+#include <cctype>
+
+namespace mainscreen {
+namespace {
+
+constexpr int octave = 12;
+
+std::string bothnames(core::PitchClass pitch)
+{
+    const auto p = static_cast<std::size_t>(pitch);
+    return std::string(core::sharpnames.at(p)) + " " + std::string(core::flatnames.at(p));
+}
+
+/// Whether a caption names a note. A letter must be the whole caption, or "C" would match "C# Db".
+bool names(std::string_view caption, std::string_view note)
+{
+    if (core::isblank(note))
+        return false;
+    if (note.size() == 1)
+        return caption == note;
+    const auto same = [](unsigned char a, unsigned char b) { return std::tolower(a) == std::tolower(b); };
+    return !std::ranges::search(caption, note, same).empty();
+}
+
+} // namespace
+
+Keyboard::Keyboard()
+{
+    for (int k = 0; k < pianokeys; ++k) {
+        const core::PitchClass pitch = k % octave;
+        key.at(static_cast<std::size_t>(k)).caption =
+            core::isblack(pitch) ? bothnames(pitch) : std::string(core::sharpnames.at(static_cast<std::size_t>(pitch)));
+    }
+    key.at(resetkey).caption = "Reset";
+    keyreset();
+}
+
+void Keyboard::keyreset()
+{
+    for (int k = 0; k < pianokeys; ++k)
+        key.at(static_cast<std::size_t>(k)).back = core::isblack(k) ? core::lightgrey : core::white;
+}
+
+void Keyboard::keyupdate(std::span<const std::string> notes)
+{
+    keyreset();
+    for (int k = 0; k < pianokeys; ++k) {
+        Key& shown = key.at(static_cast<std::size_t>(k));
+        if (std::ranges::any_of(notes, [&](const std::string& note) { return names(shown.caption, note); }))
+            shown.back = k < octave ? core::darkgrey : core::midgrey;
+    }
+}
+
+void Keyboard::flatkey(const core::NoteSpelling& spelling)
+{
+    for (int k = 0; k < pianokeys; ++k)
+        if (core::isblack(k))
+            key.at(static_cast<std::size_t>(k)).caption = spelling.both ? bothnames(k % octave) : spelling.nameof(k);
+}
+
+} // namespace mainscreen

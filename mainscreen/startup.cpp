@@ -1,0 +1,58 @@
+// SPDX-FileCopyrightText: 2026 The tonefret developers
+// SPDX-License-Identifier: MIT
+#include "mainscreen/session.h"
+
+#include <system_error>
+
+namespace mainscreen {
+
+void Session::Form_Load()
+{
+    initmain();
+    initvariables();
+    doflatsetup();
+}
+
+void Session::initmain()
+{
+    std::error_code unreadable;
+    workdir = std::filesystem::current_path(unreadable);
+    datafilename = "membank.txt";
+    startdir = workdir;
+    pagesettings = {};
+}
+
+void Session::initvariables()
+{
+    trans1.fill(core::scalefrom(0, spelling));
+    presets();
+    gettuning();
+    dataload();
+    gureset();
+    keyboard.keyreset();
+    tips.complete();
+}
+
+void Session::dataload()
+{
+    for (std::size_t i = 1; i < instruments::capolist.size() && !instruments::capolist.at(i).empty(); ++i)
+        cbopreset.items.emplace_back(instruments::capolist.at(i));
+    cbopreset.settext("pull down menu --- >");
+    cbotype.items.assign(instruments::familylist.begin(), instruments::familylist.end());
+    cbotype.settext(cbotype.text);
+}
+
+void Session::gureset()
+{
+    fretboard.resetcolours();
+}
+
+void Session::tonefretexit()
+{
+    if (ended)
+        return;
+    ended = true;
+    desktop.leave();
+}
+
+} // namespace mainscreen

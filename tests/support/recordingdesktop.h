@@ -1,0 +1,33 @@
+// SPDX-FileCopyrightText: 2026 The tonefret developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "ui/desktop.h"
+
+#include <string>
+#include <vector>
+
+namespace tests {
+
+struct Told {
+    ui::Icon icon;
+    std::string text;
+
+    bool operator==(const Told&) const = default;
+};
+
+/// A desktop without a person: keeps what it was asked, in order.
+class RecordingDesktop : public ui::Desktop {
+public:
+    std::vector<Told> told;
+    std::vector<ui::Screen> opened;
+    std::vector<ui::Screen> closed;
+    int left = 0; ///< how often the program was ended
+
+    void tell(ui::Icon icon, const std::string& text) override;
+    void open(ui::Screen screen) override;
+    void close(ui::Screen screen) override;
+    void leave() override;
+};
+
+} // namespace tests
