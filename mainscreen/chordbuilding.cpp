@@ -3,6 +3,8 @@
 #include "core/chordtypes.h"
 #include "mainscreen/session.h"
 
+#include <algorithm>
+
 namespace mainscreen {
 
 void Session::Crd_Click(int index)
@@ -47,6 +49,12 @@ void Session::buildslots(int index, core::PitchClass root)
         return;
     chordslots.alternateroot = root + type.frombutton.root;
     chordslots.alternate = core::alternatetext(type.frombutton, chordslots.notes[2], chordslots.notes[3], spelling);
+}
+
+int Session::shownchord() const
+{
+    const auto* found = std::ranges::find(core::chordtypes, cordtyp1, &core::ChordType::name);
+    return found == core::chordtypes.end() ? -1 : static_cast<int>(found - core::chordtypes.begin());
 }
 
 } // namespace mainscreen

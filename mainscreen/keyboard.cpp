@@ -36,7 +36,7 @@ Keyboard::Keyboard()
         key.at(static_cast<std::size_t>(k)).caption =
             core::isblack(pitch) ? bothnames(pitch) : std::string(core::sharpnames.at(static_cast<std::size_t>(pitch)));
     }
-    key.at(resetkey).caption = "Reset";
+    key.at(resetkey) = {"Reset", core::nocolour};
     keyreset();
 }
 

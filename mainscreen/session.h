@@ -111,6 +111,8 @@ public:
     /// Builds chord type `index` on the root in readout 0; without a root it says so and changes only `chordindex`.
     /// An index that is no type's shows the slots as they are, without an alternate.
     void findchord(int index);
+    /// The chord type that the readouts show, by its number; -1 while they show none.
+    int shownchord() const;
 
     // Spelling
     void dosharps();

@@ -37,6 +37,8 @@ struct Tips {
 
     /// Gives the members of the arrays their common tip; a chord button that has a tip of its own keeps it.
     void complete();
+
+    bool operator==(const Tips&) const = default;
 };
 
 } // namespace mainscreen

@@ -1,0 +1,31 @@
+// SPDX-FileCopyrightText: 2026 The tonefret developers
+// SPDX-License-Identifier: MIT
+#include "app/program.h"
+
+#include "instruments/retunescreen.h"
+
+namespace app {
+
+Program::Program(ui::QtDesktop& opened)
+    : desktop(opened), session(opened), stage(opened), mainscreen(session, stage, look)
+{
+    stage.onchange([this] { mainscreen.display(); });
+    desktop.setmain(&mainscreen);
+    desktop.add(ui::Screen::frmretune, [this](QWidget* owner) {
+        auto* screen = new instruments::RetuneScreen(look, owner);
+        QObject::connect(screen, &instruments::RetuneScreen::cmdret_Click, screen,
+                         [this](int index) { stage.act([&] { session.cmdret_Click(index); }); });
+        QObject::connect(screen, &instruments::RetuneScreen::Form_Unload, screen,
+                         [this] { stage.act([&] { session.frmretune_Unload(); }); });
+        return screen;
+    });
+}
+
+void Program::start()
+{
+    mainscreen.centre();
+    stage.act([this] { session.Form_Load(); });
+    mainscreen.show();
+}
+
+} // namespace app

@@ -1,0 +1,29 @@
+// SPDX-FileCopyrightText: 2026 The tonefret developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "mainscreen/mainscreen.h"
+#include "mainscreen/session.h"
+#include "ui/look.h"
+#include "ui/qtdesktop.h"
+#include "ui/stage.h"
+
+namespace app {
+
+/// The program's parts, made and joined: the state, the desktop and the screens.
+class Program {
+public:
+    /// Makes everything over a desktop; nothing is shown until `start`.
+    explicit Program(ui::QtDesktop& opened);
+
+    /// Loads the state and opens the main screen.
+    void start();
+
+    ui::QtDesktop& desktop;
+    mainscreen::Session session;
+    ui::Stage stage;
+    ui::Look look;
+    mainscreen::MainScreen mainscreen;
+};
+
+} // namespace app

@@ -1,0 +1,27 @@
+// SPDX-FileCopyrightText: 2026 The tonefret developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "ui/look.h"
+
+#include <QDialog>
+
+namespace instruments {
+
+/// Asks for the note to which a string is to be tuned by hand. Modal; closing it chooses nothing.
+class RetuneScreen : public QDialog {
+    Q_OBJECT
+
+public:
+    RetuneScreen(const ui::Look& look, QWidget* owner);
+
+Q_SIGNALS:
+    void cmdret_Click(int index); ///< 0 "no retune", 1 to 12 for C to B
+    void Form_Unload();
+
+protected:
+    void showEvent(QShowEvent* event) override;
+    void closeEvent(QCloseEvent* event) override;
+};
+
+} // namespace instruments

@@ -1,0 +1,76 @@
+// SPDX-FileCopyrightText: 2026 The tonefret developers
+// SPDX-License-Identifier: MIT
+#include "mainscreen/mainscreen.h"
+
+#include "mainscreen/chordpanel.h"
+#include "mainscreen/neckpanel.h"
+#include "mainscreen/outputpanel.h"
+#include "mainscreen/pianopanel.h"
+#include "mainscreen/places.h"
+#include "mainscreen/selectorpanel.h"
+#include "mainscreen/transposepanel.h"
+
+#include <QCloseEvent>
+#include <QScreen>
+
+namespace mainscreen {
+namespace {
+
+constexpr std::array<double, 4> openingzooms{2, 1.5, 1.25, 1};
+constexpr double comfortable = 0.9; ///< of the display's free area, at most
+
+} // namespace
+
+MainScreen::MainScreen(Session& shown, ui::Stage& entered, ui::Look& look)
+    : session(shown),
+      stage(entered),
+      canvas(new ui::Canvas(look, QSize(places::area.width, places::area.height), this)),
+      menus(*menuBar(), shown, entered)
+{
+    setObjectName(QStringLiteral("tonefret"));
+    setWindowTitle(QStringLiteral("tonefret"));
+    setCentralWidget(canvas);
+    panels.push_back(std::make_unique<PianoPanel>(*canvas, session, stage));
+    auto output = std::make_unique<OutputPanel>(*canvas, session, stage);
+    auto takefocus = [panel = output.get()] { panel->focusreset(); };
+    panels.push_back(std::move(output));
+    panels.push_back(std::make_unique<TransposePanel>(*canvas, session, stage));
+    panels.push_back(std::make_unique<ChordPanel>(*canvas, session, stage));
+    panels.push_back(std::make_unique<SelectorPanel>(*canvas, session, stage, takefocus));
+    panels.push_back(std::make_unique<NeckPanel>(*canvas, session, stage));
+}
+
+void MainScreen::display()
+{
+    menus.display();
+    for (const auto& panel : panels)
+        panel->display();
+    if (showntips == session.tips)
+        return;
+    showntips = session.tips;
+    for (const auto& panel : panels)
+        panel->displaytips(session.tips);
+}
+
+void MainScreen::centre()
+{
+    const QRect room = screen()->availableGeometry();
+    const int menuheight = menuBar()->sizeHint().height();
+    for (const double zoom : openingzooms) {
+        const QSize wanted = canvas->sizeat(zoom) + QSize(0, menuheight);
+        resize(wanted);
+        if (wanted.width() <= room.width() * comfortable && wanted.height() <= room.height() * comfortable)
+            break;
+    }
+    const double left = room.left() + (room.width() - width()) / 2.0;
+    const double top = room.top() + (room.height() - height()) / 2.0;
+    move(qRound(left), qRound(top));
+}
+
+void MainScreen::closeEvent(QCloseEvent* event)
+{
+    stage.act([this] { session.tonefretexit(); });
+    event->accept();
+}
+
+} // namespace mainscreen

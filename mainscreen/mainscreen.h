@@ -1,0 +1,41 @@
+// SPDX-FileCopyrightText: 2026 The tonefret developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "mainscreen/menus.h"
+#include "mainscreen/panel.h"
+
+#include <QMainWindow>
+
+#include <memory>
+#include <optional>
+#include <vector>
+
+namespace mainscreen {
+
+/// The main screen: menus over one canvas of panels. Its close box ends the program.
+class MainScreen : public QMainWindow {
+    Q_OBJECT
+
+public:
+    MainScreen(Session& shown, ui::Stage& entered, ui::Look& look);
+
+    /// Shows the session's state. Cheap when little has changed.
+    void display();
+
+    /// Takes the largest comfortable size on its display and stands in its middle.
+    void centre();
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
+
+private:
+    Session& session;
+    ui::Stage& stage;
+    ui::Canvas* canvas;
+    Menus menus;
+    std::vector<std::unique_ptr<Panel>> panels;
+    std::optional<Tips> showntips;
+};
+
+} // namespace mainscreen

@@ -1,0 +1,108 @@
+// SPDX-FileCopyrightText: 2026 The tonefret developers
+// SPDX-License-Identifier: MIT
+#include "mainscreen/menus.h"
+
+#include <QMenu>
+
+#include <array>
+#include <string_view>
+
+namespace mainscreen {
+namespace {
+
+/// What picking an item does, or what kind of row it is.
+enum class Kind : std::uint8_t {
+    menu, ///< opens a menu; the rows up to the next one are its items
+    separator,
+    item,
+    check, ///< an item with a check mark
+};
+
+struct MenuRow {
+    Kind kind;
+    const char* name;
+    const char* caption;
+    void (Session::*handler)() = nullptr; ///< none: nothing to do yet, the item is disabled
+    bool SpellingMarks::*mark = nullptr;  ///< the state of its check mark
+    bool checked = false;                 ///< the same where nothing changes it
+};
+
+// clang-format off
+constexpr auto rows = std::to_array<MenuRow>({
+//  kind             name             caption                                        handler                   check mark
+  { Kind::menu,      "mnufile",       "File" },
+  { Kind::item,      "mnuload",       "Load Custom Settings" },
+  { Kind::item,      "mnusave",       "Save Custom Settings" },
+  { Kind::item,      "mnuexit",       "Exit (Quit Program)",                         &Session::tonefretexit },
+  { Kind::menu,      "mnuedit",       "Edit and Custom" },
+  { Kind::item,      "mnucustom",     "Edit Custom Settings" },
+  { Kind::item,      "mnuarrange",    "Arrange Custom Order" },
+  { Kind::check,     "mnutips",       "Toggle main tips",                            nullptr,                  nullptr, true },
+  { Kind::menu,      "mnuflattype",   "Sharps and Flats" },
+  { Kind::check,     "mnusharp",      "Mostly Sharps",                               &Session::dosharps,       &SpellingMarks::mnusharp },
+  { Kind::check,     "mnuflat",       "Mostly Flats",                                &Session::doflats,        &SpellingMarks::mnuflat },
+  { Kind::check,     "mnumix1",       "Mix1 (C#,Eb,F#,Ab,Bb)",                       &Session::domix1,         &SpellingMarks::mnumix1 },
+  { Kind::check,     "mnumix2",       "Mix2 (C#,Eb,F#,G#,Bb)",                       &Session::domix2,         &SpellingMarks::mnumix2 },
+  { Kind::check,     "mnuauto",       "Automatic Chord Sharps and Flats",            &Session::doauto,         &SpellingMarks::mnuauto },
+  { Kind::separator, "mnu5",          "" },
+  { Kind::check,     "mnuboth",       "Keyboard Itself - show both",                 &Session::mnuboth_Click,  &SpellingMarks::mnuboth },
+  { Kind::menu,      "mnuprint",      "Print Chords" },
+  { Kind::item,      "mnusnap",       "Snapshot Chord Text" },
+  { Kind::item,      "mnuviewprint",  "View Print Text" },
+  { Kind::check,     "mnuguitar",     "Stringed Instrument Chords - click to set" },
+  { Kind::check,     "mnupiano",      "Keyboard Chords - click to set" },
+  { Kind::item,      "mnuphotoclear", "Clear Photos and Reset Print Data" },
+  { Kind::item,      "mnuprintchord", "Print the chords" },
+  { Kind::menu,      "mnuhelp",       "Help" },
+  { Kind::item,      "mnubhelp",      "Basic Help" },
+  { Kind::item,      "mnuchelp",      "Help - Complete" },
+  { Kind::item,      "mnuabout",      "About" },
+});
+// clang-format on
+static_assert(rows.front().kind == Kind::menu);
+
+QAction* additem(QMenu* menu, const MenuRow& row, Session& session, ui::Stage& stage)
+{
+    QAction* action = menu->addAction(QString::fromLatin1(row.caption));
+    action->setCheckable(row.kind == Kind::check);
+    action->setChecked(row.checked);
+    action->setEnabled(row.handler != nullptr);
+    if (row.handler)
+        QObject::connect(action, &QAction::triggered, action,
+                         [&session, &stage, handler = row.handler] { stage.act([&] { (session.*handler)(); }); });
+    return action;
+}
+
+} // namespace
+
+Menus::Menus(QMenuBar& bar, Session& shown, ui::Stage& entered) : session(shown)
+{
+    QMenu* menu = nullptr;
+    for (const MenuRow& row : rows) {
+        QAction* action = nullptr;
+        switch (row.kind) {
+        case Kind::menu:
+            menu = bar.addMenu(QString::fromLatin1(row.caption));
+            action = menu->menuAction();
+            break;
+        case Kind::separator:
+            action = menu->addSeparator();
+            break;
+        case Kind::item:
+        case Kind::check:
+            action = additem(menu, row, session, entered);
+            break;
+        }
+        action->setObjectName(QString::fromLatin1(row.name));
+        if (row.mark)
+            marked.push_back({action, row.mark});
+    }
+}
+
+void Menus::display()
+{
+    for (const Marked& item : marked)
+        item.action->setChecked(session.marks.*item.mark);
+}
+
+} // namespace mainscreen

@@ -1,0 +1,135 @@
+// SPDX-FileCopyrightText: 2026 The tonefret developers
+// SPDX-License-Identifier: MIT
+#include "mainscreen/neckpanel.h"
+
+#include "mainscreen/neckpicture.h"
+#include "mainscreen/places.h"
+
+#include <QLinearGradient>
+#include <QPainter>
+
+namespace mainscreen {
+namespace {
+
+using places::px;
+
+constexpr ui::Twips barwidth = 7 * px;
+constexpr ui::Twips followerwidth = 2 * px;
+constexpr ui::Twips overhang = 5 * px; ///< of the capo beyond the edges of the neck
+
+/// The capo's bar, padded and dark, or the thin bright line behind it.
+class CapoShape : public QWidget {
+public:
+    enum class Part : std::uint8_t { bar, follower };
+
+    CapoShape(Part made, QWidget* parent) : QWidget(parent), part(made)
+    {
+        setAttribute(Qt::WA_TransparentForMouseEvents);
+        hide();
+    }
+
+protected:
+    void paintEvent(QPaintEvent* /*event*/) override
+    {
+        QPainter painter(this);
+        painter.setRenderHint(QPainter::Antialiasing);
+        const QRectF box = QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5);
+        QLinearGradient metal(box.topLeft(), box.topRight());
+        metal.setColorAt(0, part == Part::bar ? QColor(0x15, 0x16, 0x19) : QColor(0xF4, 0xF4, 0xF4));
+        metal.setColorAt(0.4, part == Part::bar ? QColor(0x5A, 0x5D, 0x64) : QColor(0xFF, 0xFF, 0xFF));
+        metal.setColorAt(1, part == Part::bar ? QColor(0x1B, 0x1C, 0x20) : QColor(0xA0, 0xA3, 0xA8));
+        painter.setPen(part == Part::bar ? QPen(QColor(0x0B, 0x0C, 0x0E), 1) : QPen(Qt::NoPen));
+        painter.setBrush(metal);
+        painter.drawRoundedRect(box, box.width() / 2, box.width() / 2);
+    }
+
+private:
+    Part part;
+};
+
+} // namespace
+
+NeckPanel::NeckPanel(ui::Canvas& drawn, Session& shown, ui::Stage& entered)
+    : Panel(drawn, shown, entered),
+      capobar(new CapoShape(CapoShape::Part::bar, &canvas)),
+      capofollower(new CapoShape(CapoShape::Part::follower, &canvas)),
+      fretcaption(new ui::Readout(canvas.look(), ui::Type::label, ui::Readout::Frame::none, Qt::AlignLeft, &canvas))
+{
+    canvas.addbackdrop(
+        [this](QPainter& painter, const ui::Look& look) { paintneck(painter, look, session.fretboard); });
+    capobar->setObjectName(QStringLiteral("capobar"));
+    capofollower->setObjectName(QStringLiteral("capofollower"));
+    fretcaption->setObjectName(QStringLiteral("fretcaption"));
+    fretcaption->settext(QStringLiteral("fret"));
+    for (int i = 0; i < instruments::cellcount; ++i) {
+        auto* cell = new ui::NoteCell(canvas.look(), &canvas);
+        cell->setObjectName(membername("Text1", i));
+        onclick(cell, &Session::Text1_Click, i);
+        Text1.at(static_cast<std::size_t>(i)) = cell;
+    }
+    placecells();
+}
+
+void NeckPanel::placecells()
+{
+    const instruments::Fretboard& board = session.fretboard;
+    for (int i = 0; i < instruments::cellcount; ++i) {
+        const int fret = i / instruments::rowcount;
+        canvas.place(Text1.at(static_cast<std::size_t>(i)),
+                     {instruments::columns.at(static_cast<std::size_t>(fret))[board.hand],
+                      board.rowtop.at(static_cast<std::size_t>(i % instruments::rowcount)),
+                      places::cellwidth(fret, board.hand), instruments::rowheight});
+    }
+    canvas.place(fretcaption,
+                 {instruments::handrow(board.hand).captionleft, neckplace(board).bottom() + 2 * px, 60 * px, 14 * px});
+    shownhand = board.hand;
+    shownlayout = board.layout;
+    canvas.repaintbackdrop();
+}
+
+void NeckPanel::display()
+{
+    if (shownhand != session.fretboard.hand || shownlayout != session.fretboard.layout)
+        placecells();
+    for (int i = 0; i < instruments::cellcount; ++i)
+        displaycell(i);
+    displaycapo();
+}
+
+void NeckPanel::displaycell(int index)
+{
+    const instruments::Cell& state = session.fretboard.cell.at(static_cast<std::size_t>(index));
+    ui::NoteCell* cell = Text1.at(static_cast<std::size_t>(index));
+    const QString note = totext(state.text);
+    if (cell->text() != note) {
+        const QString open =
+            totext(session.fretboard.cell.at(static_cast<std::size_t>(index % instruments::rowcount)).text);
+        const int fret = index / instruments::rowcount;
+        cell->setAccessibleName(fret == 0
+                                    ? QString::fromLatin1("%1 string, open").arg(open)
+                                    : QString::fromLatin1("%1 string, fret %2, %3").arg(open).arg(fret).arg(note));
+    }
+    cell->display(note, state.back);
+    if (cell->isHidden() == state.visible)
+        cell->setVisible(state.visible);
+}
+
+void NeckPanel::displaycapo()
+{
+    const instruments::CapoMarker& marker = session.capomarker;
+    const ui::TwipRect neck = neckplace(session.fretboard);
+    const ui::Twips top = neck.top - overhang;
+    const ui::Twips height = neck.height + 2 * overhang;
+    canvas.place(capobar, {marker.barleft, top, barwidth, height});
+    canvas.place(capofollower, {marker.followerleft, top, followerwidth, height});
+    capobar->setVisible(marker.barvisible);
+    capofollower->setVisible(marker.followervisible);
+}
+
+void NeckPanel::displaytips(const Tips& tips)
+{
+    for (std::size_t i = 0; i < Text1.size(); ++i)
+        Text1.at(i)->setToolTip(totext(tips.Text1.at(i)));
+}
+
+} // namespace mainscreen

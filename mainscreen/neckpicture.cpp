@@ -1,0 +1,170 @@
+// SPDX-FileCopyrightText: 2026 The tonefret developers
+// SPDX-License-Identifier: MIT
+#include "mainscreen/neckpicture.h"
+
+#include "mainscreen/places.h"
+#include "ui/paint.h"
+
+#include <QLinearGradient>
+#include <QPainter>
+
+namespace mainscreen {
+namespace {
+
+using instruments::Fretboard;
+using instruments::Hand;
+using places::px;
+using ui::Look;
+using ui::TwipRect;
+using ui::Twips;
+
+constexpr std::array<int, 8> inlayfrets{3, 5, 7, 9, 12, 15, 17, 19};
+constexpr Twips nutwidth = 4 * px;
+
+Twips columnleft(int fret, Hand hand)
+{
+    return instruments::columns.at(static_cast<std::size_t>(fret))[hand];
+}
+
+Twips columnright(int fret, Hand hand)
+{
+    return columnleft(fret, hand) + places::cellwidth(fret, hand);
+}
+
+Twips columnmiddle(int fret, Hand hand)
+{
+    return (columnleft(fret, hand) + columnright(fret, hand)) / 2;
+}
+
+/// Where fret wire `fret` crosses: halfway between its cells and the next fret's. Wire 0 is the nut.
+Twips wire(int fret, Hand hand)
+{
+    if (hand == Hand::right)
+        return (columnright(fret, hand) + columnleft(fret + 1, hand)) / 2;
+    return (columnleft(fret, hand) + columnright(fret + 1, hand)) / 2;
+}
+
+void paintwood(QPainter& painter, const Look& look, const TwipRect& neck)
+{
+    const QRectF wood = look.exact(neck);
+    QLinearGradient grain(wood.topLeft(), wood.bottomLeft());
+    grain.setColorAt(0, QColor(0x63, 0x40, 0x33));
+    grain.setColorAt(0.5, QColor(0x4A, 0x2E, 0x25));
+    grain.setColorAt(1, QColor(0x38, 0x22, 0x1B));
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(grain);
+    painter.drawRoundedRect(wood, 3 * look.zoom(), 3 * look.zoom());
+}
+
+void paintdot(QPainter& painter, const Look& look, Twips x, Twips y, double radius)
+{
+    const QPointF middle(look.pixels(x), look.pixels(y));
+    QLinearGradient pearl(middle - QPointF(radius, radius) * look.zoom(),
+                          middle + QPointF(radius, radius) * look.zoom());
+    pearl.setColorAt(0, QColor(0xFA, 0xF6, 0xEC));
+    pearl.setColorAt(1, QColor(0xC9, 0xBF, 0xAE));
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(pearl);
+    painter.drawEllipse(middle, radius * look.zoom(), radius * look.zoom());
+}
+
+/// Dots along the lower edge, where no cell hides them.
+void paintinlays(QPainter& painter, const Look& look, const TwipRect& neck, Hand hand)
+{
+    const Twips y = neck.bottom() - places::neckmargin / 2;
+    for (const int fret : inlayfrets) {
+        const Twips x = columnmiddle(fret, hand);
+        const Twips apart = fret == 12 ? 4 * px : 0;
+        paintdot(painter, look, x - apart, y, 2.2);
+        if (apart > 0)
+            paintdot(painter, look, x + apart, y, 2.2);
+    }
+}
+
+void paintwires(QPainter& painter, const Look& look, const TwipRect& neck, Hand hand)
+{
+    const QRectF wood = look.exact(neck);
+    for (int fret = 1; fret + 1 < instruments::fretcount; ++fret) {
+        const double x = look.pixels(wire(fret, hand));
+        painter.fillRect(QRectF(x - 0.2 * look.zoom(), wood.top(), 1.9 * look.zoom(), wood.height()),
+                         QColor(0, 0, 0, 90));
+        painter.fillRect(QRectF(x - look.zoom(), wood.top(), 1.6 * look.zoom(), wood.height()),
+                         QColor(0xD8, 0xC8, 0x9E));
+    }
+    const TwipRect nut{wire(0, hand) - nutwidth / 2, neck.top, nutwidth, neck.height};
+    ui::paintbox(painter, look, look.exact(nut), QColor(0xF1, 0xE8, 0xD6), QColor(0xB9, 0xAD, 0x96), 1.5);
+}
+
+struct StringKind {
+    double weight; ///< pixels at zoom 1
+    bool wound;
+};
+
+/// The string on row `row`: heavier downward, the lower half wound; a banjo's fifth is as thin as its first.
+StringKind stringkind(int row, instruments::StringLayout layout)
+{
+    if (layout == instruments::StringLayout::shortfifth)
+        return row == instruments::lastrow ? StringKind{0.9, false} : StringKind{0.9 + 0.25 * (row - 1), row == 4};
+    return {0.9 + 0.3 * row, row >= 3};
+}
+
+/// A row's string lies behind its open cell, over the neck and a piece beyond it. The banjo's fifth begins at its peg.
+void paintstring(QPainter& painter, const Look& look, const Fretboard& board, int row)
+{
+    const StringKind kind = stringkind(row, board.layout);
+    const double y = look.pixels(board.rowtop.at(static_cast<std::size_t>(row)) + instruments::rowheight / 2);
+    const instruments::HandRow& ends = instruments::handrow(board.hand);
+    const bool right = board.hand == Hand::right;
+    const bool shortstring = board.layout == instruments::StringLayout::shortfifth && row == instruments::lastrow;
+    const int firstfret = shortstring ? instruments::shortstringfret : 0;
+    const Twips reach = shortstring ? 0 : 11 * px;
+    const Twips from =
+        right ? (shortstring ? wire(firstfret, board.hand) : columnleft(0, board.hand) - reach) : ends.segmentleft;
+    const Twips to =
+        right ? ends.segmentright : (shortstring ? wire(firstfret, board.hand) : columnright(0, board.hand) + reach);
+    const QColor metal = kind.wound ? QColor(0xC2, 0x9C, 0x57) : QColor(0xB9, 0xB7, 0xB1);
+    const QRectF line(look.pixels(from), y - kind.weight * look.zoom() / 2, look.pixels(to - from),
+                      kind.weight * look.zoom());
+    painter.fillRect(line.translated(0, 0.8 * look.zoom()), QColor(0, 0, 0, 60));
+    painter.fillRect(line, metal);
+    if (shortstring)
+        paintdot(painter, look, wire(firstfret, board.hand), board.rowtop.back() + instruments::rowheight / 2, 3);
+}
+
+void paintnumbers(QPainter& painter, const Look& look, const TwipRect& neck, Hand hand)
+{
+    for (const int fret : inlayfrets) {
+        const TwipRect where{columnmiddle(fret, hand) - 15 * px, neck.bottom() + 2 * px, 30 * px, 14 * px};
+        ui::painttext(painter, look.exact(where), QString::number(fret), look.font(ui::Type::heading),
+                      look.theme().label);
+    }
+}
+
+} // namespace
+
+TwipRect neckplace(const Fretboard& fretboard)
+{
+    const auto& shown = instruments::layoutrow(fretboard.layout);
+    const Twips top = fretboard.rowtop.at(static_cast<std::size_t>(shown.firstrow)) - places::neckmargin;
+    const Twips bottom = fretboard.rowtop.back() + instruments::rowheight + places::neckmargin;
+    const int last = instruments::fretcount - 1;
+    const Hand hand = fretboard.hand;
+    const Twips end = hand == Hand::right ? columnright(last, hand) : columnleft(last, hand);
+    const Twips left = hand == Hand::right ? wire(0, hand) : end - places::cellgap;
+    const Twips right = hand == Hand::right ? end + places::cellgap : wire(0, hand);
+    return {left, top, right - left, bottom - top};
+}
+
+void paintneck(QPainter& painter, const Look& look, const Fretboard& fretboard)
+{
+    painter.setRenderHint(QPainter::Antialiasing);
+    const TwipRect neck = neckplace(fretboard);
+    paintwood(painter, look, neck);
+    paintwires(painter, look, neck, fretboard.hand);
+    paintinlays(painter, look, neck, fretboard.hand);
+    for (int row = instruments::layoutrow(fretboard.layout).firstrow; row < instruments::rowcount; ++row)
+        paintstring(painter, look, fretboard, row);
+    paintnumbers(painter, look, neck, fretboard.hand);
+}
+
+} // namespace mainscreen

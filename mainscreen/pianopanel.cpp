@@ -1,0 +1,67 @@
+// SPDX-FileCopyrightText: 2026 The tonefret developers
+// SPDX-License-Identifier: MIT
+#include "mainscreen/pianopanel.h"
+
+#include "mainscreen/places.h"
+
+#include <QPainter>
+
+namespace mainscreen {
+namespace {
+
+void paintcase(QPainter& painter, const ui::Look& look)
+{
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(QColor(0x1B, 0x1D, 0x21));
+    const double corner = 6 * look.zoom();
+    painter.drawRoundedRect(look.exact(places::keycase), corner, corner);
+    painter.fillRect(look.place(places::felt), QColor(0x9E, 0x2B, 0x2B));
+}
+
+/// "C sharp key, lower octave": how the key is read aloud.
+QString spokenname(int k)
+{
+    QString note = totext(core::sharpnames.at(static_cast<std::size_t>(k % 12)));
+    note.replace(QLatin1Char('#'), QLatin1String(" sharp"));
+    const char* octave = k < 12 ? "lower octave" : k < 24 ? "upper octave" : "top";
+    return QString::fromLatin1("%1 key, %2").arg(note, QLatin1String(octave));
+}
+
+} // namespace
+
+PianoPanel::PianoPanel(ui::Canvas& drawn, Session& shown, ui::Stage& entered) : Panel(drawn, shown, entered)
+{
+    canvas.addbackdrop(paintcase);
+    for (int k = 0; k < pianokeys; ++k)
+        if (!core::isblack(k))
+            addkey(k);
+    for (int k = 0; k < pianokeys; ++k)
+        if (core::isblack(k))
+            addkey(k); // after the white ones, so that it lies over them
+}
+
+void PianoPanel::addkey(int k)
+{
+    const auto kind = core::isblack(k) ? ui::PianoKey::Kind::black : ui::PianoKey::Kind::white;
+    auto* made = put(new ui::PianoKey(canvas.look(), kind, &canvas), membername("key", k), places::keyplace(k));
+    made->setAccessibleName(spokenname(k));
+    onclick(made, &Session::key_Click, k);
+    key.at(static_cast<std::size_t>(k)) = made;
+}
+
+void PianoPanel::display()
+{
+    for (std::size_t k = 0; k < key.size(); ++k) {
+        const Key& state = session.keyboard.key.at(k);
+        key.at(k)->display(totext(state.caption), state.back);
+    }
+}
+
+void PianoPanel::displaytips(const Tips& tips)
+{
+    for (std::size_t k = 0; k < key.size(); ++k)
+        key.at(k)->setToolTip(totext(tips.key.at(k)));
+}
+
+} // namespace mainscreen

@@ -1,0 +1,24 @@
+// SPDX-FileCopyrightText: 2026 The tonefret developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "mainscreen/panel.h"
+#include "ui/pianokey.h"
+
+namespace mainscreen {
+
+/// The two octaves of keys in their case.
+class PianoPanel : public Panel {
+public:
+    PianoPanel(ui::Canvas& drawn, Session& shown, ui::Stage& entered);
+
+    void display() override;
+    void displaytips(const Tips& tips) override;
+
+private:
+    void addkey(int k);
+
+    std::array<ui::PianoKey*, pianokeys> key{};
+};
+
+} // namespace mainscreen

@@ -1,0 +1,143 @@
+// SPDX-FileCopyrightText: 2026 The tonefret developers
+// SPDX-License-Identifier: MIT
+// Plays a short walk on the real screens and keeps a picture of each stop, so that the program can be seen where there
+// is no display. The pictures of the README are made the same way.
+
+#include "app/program.h"
+
+#include <QApplication>
+#include <QComboBox>
+#include <QDir>
+#include <QFontDatabase>
+#include <QMouseEvent>
+#include <QPalette>
+#include <QTextStream>
+
+#include <stdexcept>
+
+namespace {
+
+/// A person's hands on one program.
+class Walker {
+public:
+    explicit Walker(app::Program& walked, QDir kept) : program(walked), folder(std::move(kept)) {}
+
+    void click(const char* name) const
+    {
+        auto* control = find<QWidget>(name);
+        const QPointF middle = QRectF(control->rect()).center();
+        for (const auto type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease}) {
+            const auto held = type == QEvent::MouseButtonPress ? Qt::LeftButton : Qt::NoButton;
+            QMouseEvent event(type, middle, control->mapToGlobal(middle), Qt::LeftButton, held, Qt::NoModifier);
+            QApplication::sendEvent(control, &event);
+        }
+    }
+
+    void choose(const char* name, const char* item) const
+    {
+        auto* list = find<QComboBox>(name);
+        const int index = list->findText(QString::fromLatin1(item));
+        if (index < 0)
+            throw std::runtime_error(std::string(name) + " has no item " + item);
+        list->setCurrentIndex(index);
+        Q_EMIT list->activated(index);
+    }
+
+    void keep(const char* name) const
+    {
+        QApplication::processEvents();
+        const QString path = folder.filePath(QString::fromLatin1(name) + QStringLiteral(".png"));
+        if (!program.mainscreen.grab().save(path))
+            throw std::runtime_error("cannot write " + path.toStdString());
+        QTextStream(stdout) << path << '\n';
+    }
+
+private:
+    template <typename Control> Control* find(const char* name) const
+    {
+        auto* found = program.mainscreen.findChild<Control*>(QString::fromLatin1(name));
+        if (!found)
+            throw std::runtime_error(std::string("no control ") + name);
+        return found;
+    }
+
+    app::Program& program;
+    QDir folder;
+};
+
+QPalette darkpalette()
+{
+    QPalette palette(QColor(0x2D, 0x30, 0x35), QColor(0x23, 0x25, 0x28));
+    palette.setColor(QPalette::Highlight, QColor(0xE0, 0x8A, 0x5E));
+    return palette;
+}
+
+/// The same pictures everywhere: a platform without a display has no font of its own choosing.
+void usepicturefont()
+{
+    const QString wanted = QStringLiteral("Inter");
+    if (QFontDatabase::families().contains(wanted))
+        QApplication::setFont(QFont(wanted, QApplication::font().pointSize()));
+}
+
+void lightwalk(const QDir& folder)
+{
+    ui::QtDesktop desktop;
+    app::Program program(desktop);
+    program.start();
+    const Walker walker(program, folder);
+    walker.keep("start");
+    for (const char* key : {"key_0", "key_4", "key_7"})
+        walker.click(key);
+    walker.keep("notes");
+    walker.click("key_25");
+    walker.click("key_0");
+    walker.click("Crd_3");
+    walker.keep("chord");
+    walker.click("key_25");
+    walker.click("key_0");
+    walker.click("Crd_4");
+    walker.keep("guitar");
+    walker.choose("cbotype", "      UKULELE");
+    walker.choose("cbopreset", "3rd fret  capo / bar");
+    walker.keep("capo");
+    walker.choose("cbopreset", "show all notes");
+    walker.keep("ukulele");
+}
+
+void darkwalk(const QDir& folder)
+{
+    QApplication::setPalette(darkpalette());
+    ui::QtDesktop desktop;
+    app::Program program(desktop);
+    program.start();
+    const Walker walker(program, folder);
+    walker.choose("cbotype", "        BANJO");
+    walker.choose("cboleft", "Left Hand");
+    walker.choose("cbopreset", "2nd fret  capo / bar");
+    walker.click("cmdauto");
+    walker.click("key_2");
+    walker.click("Crd_3");
+    walker.keep("banjo");
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    qputenv("QT_SCALE_FACTOR", "2"); // pictures as a sharp display shows them
+    const QApplication application(argc, argv);
+    try {
+        const QStringList arguments = QApplication::arguments();
+        const QDir folder(arguments.size() > 1 ? arguments.at(1) : QStringLiteral("."));
+        if (!folder.mkpath(QStringLiteral(".")))
+            throw std::runtime_error("cannot make the folder " + folder.path().toStdString());
+        usepicturefont();
+        lightwalk(folder);
+        darkwalk(folder);
+    } catch (const std::exception& failure) {
+        QTextStream(stderr) << "tour: " << failure.what() << '\n';
+        return 1;
+    }
+    return 0;
+}

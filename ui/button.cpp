@@ -1,0 +1,108 @@
+// SPDX-FileCopyrightText: 2026 The tonefret developers
+// SPDX-License-Identifier: MIT
+#include "ui/button.h"
+
+#include "ui/marks.h"
+#include "ui/paint.h"
+
+#include <QFontMetricsF>
+#include <QPainter>
+
+namespace ui {
+
+Button::Button(const Look& shownlook, const QString& caption, QWidget* parent, Shape drawn)
+    : QPushButton(caption, parent), look(shownlook), shape(drawn)
+{
+    setFocusPolicy(Qt::TabFocus);
+}
+
+Button::Button(const Look& shownlook, Qt::ArrowType pointing, QWidget* parent) : Button(shownlook, QString(), parent)
+{
+    arrow = pointing;
+}
+
+void Button::setchosen(bool chosen)
+{
+    if (chosenface == chosen)
+        return;
+    chosenface = chosen;
+    update();
+}
+
+void Button::setbackColor(const QColor& colour)
+{
+    if (back == colour)
+        return;
+    back = colour;
+    update();
+}
+
+void Button::setbold(bool bold)
+{
+    if (font().bold() == bold)
+        return;
+    QFont changed = font();
+    changed.setBold(bold);
+    setFont(changed);
+}
+
+QSize Button::sizeHint() const
+{
+    const QFontMetricsF metrics(look.font(Type::text));
+    return {qRound(metrics.horizontalAdvance(text()) + 28 * look.zoom()), qRound(28 * look.zoom())};
+}
+
+QColor Button::face() const
+{
+    const Theme& theme = look.theme();
+    if (back.isValid())
+        return back;
+    if (chosenface || isDown())
+        return theme.pressed;
+    return isEnabled() && underMouse() ? theme.hover : theme.button;
+}
+
+QColor Button::ink() const
+{
+    const Theme& theme = look.theme();
+    if (!isEnabled())
+        return theme.label;
+    if (back.isValid())
+        return markink();
+    return chosenface || isDown() ? theme.pressedtext : theme.text;
+}
+
+void Button::paintEvent(QPaintEvent* /*event*/)
+{
+    QPainter painter(this);
+    const double corner = shape == Shape::pill ? height() / 2.0 / look.zoom() : 5;
+    const QColor filled = face();
+    paintbox(painter, look, rect(), filled, chosenface ? filled : look.theme().hairline, corner);
+    if (arrow != Qt::NoArrow)
+        paintarrow(painter, look, rect(), arrow, ink());
+    const double margin = 4 * look.zoom();
+    painttext(painter, QRectF(rect()).adjusted(margin, 0, -margin, 0), text(),
+              look.font(font().bold() ? Type::strong : Type::text), ink());
+    if (hasFocus() && ring)
+        paintfocus(painter, look, rect(), corner);
+}
+
+void Button::focusInEvent(QFocusEvent* event)
+{
+    ring = bykeyboard(*event);
+    QPushButton::focusInEvent(event);
+}
+
+void Button::enterEvent(QEnterEvent* event)
+{
+    QPushButton::enterEvent(event);
+    update();
+}
+
+void Button::leaveEvent(QEvent* event)
+{
+    QPushButton::leaveEvent(event);
+    update();
+}
+
+} // namespace ui

@@ -1,0 +1,94 @@
+// SPDX-FileCopyrightText: 2026 The tonefret developers
+// SPDX-License-Identifier: MIT
+#include "ui/canvas.h"
+
+#include <QEvent>
+#include <QPaintEvent>
+#include <QPainter>
+
+#include <algorithm>
+
+namespace ui {
+
+Canvas::Canvas(Look& shownlook, QSize twips, QWidget* parent) : QWidget(parent), shown(shownlook), area(twips)
+{
+    setAttribute(Qt::WA_OpaquePaintEvent);
+}
+
+QSize Canvas::sizeat(double zoom) const
+{
+    Look scaled;
+    scaled.setzoom(zoom);
+    return scaled.place({0, 0, area.width(), area.height()}).size();
+}
+
+void Canvas::place(QWidget* control, const TwipRect& where)
+{
+    const auto found = std::ranges::find(controls, control, &Placed::control);
+    if (found == controls.end()) {
+        controls.push_back({control, where});
+        move(controls.back());
+    } else {
+        found->where = where;
+        move(*found);
+    }
+}
+
+void Canvas::move(const Placed& placed)
+{
+    const QRect target = shown.place(placed.where).translated(origin);
+    if (placed.control->geometry() != target)
+        placed.control->setGeometry(target);
+}
+
+void Canvas::layoutcontrols()
+{
+    const QSize atone = sizeat(1);
+    const double fitting =
+        std::min(static_cast<double>(width()) / atone.width(), static_cast<double>(height()) / atone.height());
+    shown.setzoom(std::clamp(fitting, smallestzoom, largestzoom));
+    const QSize used = shown.place({0, 0, area.width(), area.height()}).size();
+    origin = QPoint(std::max(0, (width() - used.width()) / 2), std::max(0, (height() - used.height()) / 2));
+    for (const Placed& placed : controls)
+        move(placed);
+    repaintbackdrop();
+}
+
+void Canvas::repaintbackdrop()
+{
+    picture = {};
+    update();
+}
+
+void Canvas::resizeEvent(QResizeEvent* event)
+{
+    QWidget::resizeEvent(event);
+    layoutcontrols();
+}
+
+void Canvas::changeEvent(QEvent* event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange || event->type() == QEvent::ApplicationPaletteChange) {
+        shown.followpalette(palette());
+        repaintbackdrop();
+    }
+}
+
+void Canvas::paintEvent(QPaintEvent* event)
+{
+    if (picture.isNull()) {
+        picture = QPixmap(size() * devicePixelRatioF());
+        picture.setDevicePixelRatio(devicePixelRatioF());
+        picture.fill(shown.theme().surface);
+        QPainter painter(&picture);
+        painter.translate(origin);
+        for (const Backdrop& paint : backdrops)
+            paint(painter, shown);
+    }
+    QPainter painter(this);
+    painter.setClipRegion(event->region());
+    painter.drawPixmap(0, 0, picture);
+}
+
+} // namespace ui

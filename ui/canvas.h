@@ -1,0 +1,63 @@
+// SPDX-FileCopyrightText: 2026 The tonefret developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "ui/look.h"
+
+#include <QPixmap>
+#include <QWidget>
+
+#include <functional>
+#include <vector>
+
+namespace ui {
+
+/// An area on which controls have their places in twips. It is drawn at the zoom that fits it and keeps its
+/// proportions; what is left over is margin. Behind the controls stands a picture that is painted once for each zoom,
+/// theme and change of what it shows.
+class Canvas : public QWidget {
+    Q_OBJECT
+
+public:
+    using Backdrop = std::function<void(QPainter&, const Look&)>;
+
+    /// `shownlook` follows this canvas's zoom and palette from now on.
+    Canvas(Look& shownlook, QSize twips, QWidget* parent = nullptr);
+
+    /// Puts a control, made with this canvas as its parent, at its place.
+    void place(QWidget* control, const TwipRect& where);
+    /// Paints on the picture behind the controls, after those added before.
+    void addbackdrop(Backdrop painter) { backdrops.push_back(std::move(painter)); }
+    void repaintbackdrop();
+
+    const Look& look() const { return shown; }
+    QSize sizeat(double zoom) const;
+    QSize sizeHint() const override { return sizeat(1); }
+    QSize minimumSizeHint() const override { return sizeat(smallestzoom); }
+
+    static constexpr double smallestzoom = 0.75;
+    static constexpr double largestzoom = 4;
+
+protected:
+    void resizeEvent(QResizeEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+    void changeEvent(QEvent* event) override;
+
+private:
+    struct Placed {
+        QWidget* control;
+        TwipRect where;
+    };
+
+    void layoutcontrols();
+    void move(const Placed& placed);
+
+    Look& shown;
+    QSize area;
+    QPoint origin;
+    std::vector<Placed> controls;
+    std::vector<Backdrop> backdrops;
+    QPixmap picture;
+};
+
+} // namespace ui

@@ -1,0 +1,29 @@
+// SPDX-FileCopyrightText: 2026 The tonefret developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "core/display.h"
+
+#include <QColor>
+
+namespace ui {
+
+/// Ink on the given greys and on white: dark enough to read on the darkest of them, in every theme.
+inline QColor markink()
+{
+    return {0x0B, 0x0C, 0x0E};
+}
+
+/// Whether a key or a cell of this colour shows a note of the chord.
+inline bool ismark(core::Colour colour)
+{
+    return colour == core::darkgrey || colour == core::midgrey;
+}
+
+/// Not valid for `nocolour`.
+inline QColor tocolour(core::Colour colour)
+{
+    return colour == core::nocolour ? QColor() : QColor::fromRgb(colour);
+}
+
+} // namespace ui

@@ -1,0 +1,50 @@
+// SPDX-FileCopyrightText: 2026 The tonefret developers
+// SPDX-License-Identifier: MIT
+#include "ui/notecell.h"
+
+#include "ui/marks.h"
+#include "ui/paint.h"
+
+#include <QPainter>
+
+namespace ui {
+
+NoteCell::NoteCell(const Look& shownlook, QWidget* parent) : QAbstractButton(parent), look(shownlook)
+{
+    setFocusPolicy(Qt::NoFocus);
+}
+
+void NoteCell::display(const QString& note, core::Colour colour)
+{
+    if (text() != note)
+        setText(note);
+    if (back == colour)
+        return;
+    back = colour;
+    update();
+}
+
+void NoteCell::paintEvent(QPaintEvent* /*event*/)
+{
+    QPainter painter(this);
+    const bool marked = ismark(back);
+    const double gap = look.zoom();
+    const QRectF pill = QRectF(rect()).adjusted(0, gap, 0, -gap);
+    const QColor edge = marked ? markink() : underMouse() ? look.theme().accent : QColor(0xCF, 0xCA, 0xBE);
+    paintbox(painter, look, pill, tocolour(back), edge, pill.height() / 2 / look.zoom());
+    painttext(painter, pill.adjusted(gap, 0, -gap, 0), text(), look.font(marked ? Type::mark : Type::note), markink());
+}
+
+void NoteCell::enterEvent(QEnterEvent* event)
+{
+    QAbstractButton::enterEvent(event);
+    update();
+}
+
+void NoteCell::leaveEvent(QEvent* event)
+{
+    QAbstractButton::leaveEvent(event);
+    update();
+}
+
+} // namespace ui

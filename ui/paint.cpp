@@ -1,0 +1,64 @@
+// SPDX-FileCopyrightText: 2026 The tonefret developers
+// SPDX-License-Identifier: MIT
+#include "ui/paint.h"
+
+#include <QFontMetricsF>
+#include <QPainterPath>
+
+namespace ui {
+
+void paintbox(QPainter& painter, const Look& look, const QRectF& box, const QColor& face, const QColor& edge,
+              double corner)
+{
+    const double line = qMax(1.0, look.zoom());
+    const double half = line / 2;
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(edge, line));
+    painter.setBrush(face);
+    painter.drawRoundedRect(box.adjusted(half, half, -half, -half), corner * look.zoom(), corner * look.zoom());
+}
+
+void painttext(QPainter& painter, const QRectF& box, const QString& text, const QFont& font, const QColor& colour,
+               Qt::Alignment alignment)
+{
+    if (text.isEmpty())
+        return;
+    QFont fitted = font;
+    const double needed = QFontMetricsF(font).horizontalAdvance(text);
+    if (needed > box.width())
+        fitted.setPixelSize(qMax(1, static_cast<int>(font.pixelSize() * box.width() / needed)));
+    painter.setFont(fitted);
+    painter.setPen(colour);
+    painter.drawText(box, static_cast<int>(alignment) | Qt::TextSingleLine, text);
+}
+
+void paintfocus(QPainter& painter, const Look& look, const QRectF& box, double corner)
+{
+    const double line = 2 * look.zoom();
+    const double half = line / 2;
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(look.theme().accent, line));
+    painter.setBrush(Qt::NoBrush);
+    painter.drawRoundedRect(box.adjusted(half, half, -half, -half), corner * look.zoom(), corner * look.zoom());
+}
+
+bool bykeyboard(const QFocusEvent& event)
+{
+    return event.reason() == Qt::TabFocusReason || event.reason() == Qt::BacktabFocusReason ||
+           event.reason() == Qt::ShortcutFocusReason;
+}
+
+void paintarrow(QPainter& painter, const Look& look, const QRectF& box, Qt::ArrowType direction, const QColor& colour)
+{
+    const double reach = 3 * look.zoom();
+    const double towards = direction == Qt::LeftArrow ? -reach : reach;
+    const QPointF middle = box.center();
+    QPainterPath path(middle + QPointF(towards, 0));
+    path.lineTo(middle + QPointF(-towards, -1.3 * reach));
+    path.lineTo(middle + QPointF(-towards, 1.3 * reach));
+    path.closeSubpath();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.fillPath(path, colour);
+}
+
+} // namespace ui

@@ -1,0 +1,93 @@
+// SPDX-FileCopyrightText: 2026 The tonefret developers
+// SPDX-License-Identifier: MIT
+#include "ui/pianokey.h"
+
+#include "ui/marks.h"
+#include "ui/paint.h"
+
+#include <QLinearGradient>
+#include <QPainter>
+#include <QPainterPath>
+
+namespace ui {
+namespace {
+
+/// A key is square where it meets the case and rounded at the player's end.
+QPainterPath keyshape(const QRectF& box, double corner)
+{
+    QPainterPath path;
+    path.setFillRule(Qt::WindingFill);
+    path.addRoundedRect(box, corner, corner);
+    path.addRect(box.adjusted(0, 0, 0, -2 * corner));
+    return path.simplified();
+}
+
+} // namespace
+
+PianoKey::PianoKey(const Look& shownlook, Kind made, QWidget* parent)
+    : QAbstractButton(parent), look(shownlook), kind(made), back(made == Kind::white ? core::white : core::lightgrey)
+{
+    setFocusPolicy(Qt::NoFocus);
+}
+
+void PianoKey::display(const QString& caption, core::Colour colour)
+{
+    if (text() != caption)
+        setText(caption);
+    if (back == colour)
+        return;
+    back = colour;
+    update();
+}
+
+void PianoKey::paintEvent(QPaintEvent* /*event*/)
+{
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    paintbody(painter);
+    paintcaption(painter);
+}
+
+void PianoKey::paintbody(QPainter& painter) const
+{
+    const double line = look.zoom();
+    const bool white = kind == Kind::white;
+    const QRectF box = white ? QRectF(rect()).adjusted(line / 2, -line, -line / 2, -line / 2)
+                             : QRectF(rect()).adjusted(line / 2, -line, -line / 2, -line / 2);
+    const QPainterPath shape = keyshape(box, (white ? 4 : 3) * look.zoom());
+    painter.fillPath(shape, tocolour(back));
+
+    QLinearGradient shade(box.topLeft(), box.bottomLeft());
+    if (white) {
+        shade.setColorAt(0, QColor(0, 0, 0, 26));
+        shade.setColorAt(0.08, QColor(0, 0, 0, 0));
+        shade.setColorAt(0.92, QColor(0, 0, 0, 0));
+        shade.setColorAt(1, QColor(60, 50, 30, 22));
+    } else {
+        shade.setColorAt(0, QColor(0, 0, 0, 0));
+        shade.setColorAt(0.86, QColor(0, 0, 0, 0));
+        shade.setColorAt(0.88, QColor(0, 0, 0, 40));
+        shade.setColorAt(1, QColor(0, 0, 0, 10));
+    }
+    if (!ismark(back))
+        painter.fillPath(shape, shade);
+    if (isDown())
+        painter.fillPath(shape, QColor(0, 0, 0, 28));
+    const QColor edge = white ? QColor(0x8C, 0x88, 0x7E) : QColor(0x1C, 0x1E, 0x22);
+    painter.strokePath(shape, QPen(edge, white ? line : 1.3 * line));
+}
+
+void PianoKey::paintcaption(QPainter& painter) const
+{
+    const Type type = kind == Kind::black || ismark(back) ? Type::mark : Type::text;
+    const double lineheight = 13 * look.zoom();
+    const QStringList names = text().split(QLatin1Char(' '));
+    double top =
+        height() - (kind == Kind::white ? 8 : 12) * look.zoom() - lineheight * static_cast<double>(names.size());
+    for (const QString& name : names) {
+        painttext(painter, QRectF(2, top, width() - 4, lineheight), name, look.font(type), markink());
+        top += lineheight;
+    }
+}
+
+} // namespace ui

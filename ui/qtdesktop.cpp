@@ -1,0 +1,50 @@
+// SPDX-FileCopyrightText: 2026 The tonefret developers
+// SPDX-License-Identifier: MIT
+#include "ui/qtdesktop.h"
+
+#include <QApplication>
+#include <QMessageBox>
+
+namespace ui {
+
+void QtDesktop::tell(Icon icon, const std::string& text)
+{
+    QMessageBox box(icon == Icon::critical ? QMessageBox::Critical : QMessageBox::Information,
+                    QApplication::applicationDisplayName(), QString::fromStdString(text), QMessageBox::Ok,
+                    QApplication::activeWindow() ? QApplication::activeWindow() : mainscreen.data());
+    box.setTextFormat(Qt::PlainText);
+    box.exec();
+}
+
+void QtDesktop::open(Screen screen)
+{
+    QPointer<QWidget>& opened = screens[screen];
+    if (!opened)
+        opened = makers.at(screen)(mainscreen);
+    opened->show();
+    opened->raise();
+    opened->activateWindow();
+}
+
+void QtDesktop::close(Screen screen)
+{
+    if (QWidget* open = screens[screen])
+        open->close();
+}
+
+void QtDesktop::leave()
+{
+    for (const auto& [screen, widget] : screens)
+        if (widget)
+            widget->hide();
+    if (mainscreen)
+        mainscreen->hide();
+    for (const auto& [screen, widget] : screens)
+        if (widget)
+            widget->close();
+    if (mainscreen)
+        mainscreen->close();
+    QApplication::quit();
+}
+
+} // namespace ui

@@ -1,0 +1,36 @@
+// SPDX-FileCopyrightText: 2026 The tonefret developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "ui/desktop.h"
+
+#include <QPointer>
+#include <QWidget>
+
+#include <functional>
+#include <map>
+
+namespace ui {
+
+/// The desktop that a person sits at.
+class QtDesktop : public Desktop {
+public:
+    using Maker = std::function<QWidget*(QWidget* owner)>;
+
+    /// The screen over which the others stand and which is left last.
+    void setmain(QWidget* screen) { mainscreen = screen; }
+    /// How a screen is made the first time it is opened.
+    void add(Screen screen, Maker maker) { makers[screen] = std::move(maker); }
+
+    void tell(Icon icon, const std::string& text) override;
+    void open(Screen screen) override;
+    void close(Screen screen) override;
+    void leave() override;
+
+private:
+    QPointer<QWidget> mainscreen;
+    std::map<Screen, Maker> makers;
+    std::map<Screen, QPointer<QWidget>> screens;
+};
+
+} // namespace ui

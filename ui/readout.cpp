@@ -1,0 +1,40 @@
+// SPDX-FileCopyrightText: 2026 The tonefret developers
+// SPDX-License-Identifier: MIT
+#include "ui/readout.h"
+
+#include "ui/paint.h"
+
+#include <QPainter>
+
+namespace ui {
+
+Readout::Readout(const Look& shownlook, Type written, Frame drawn, Qt::Alignment placed, QWidget* parent)
+    : QWidget(parent), look(shownlook), type(written), frame(drawn), alignment(placed)
+{
+}
+
+void Readout::settext(const QString& text)
+{
+    if (shown == text)
+        return;
+    shown = text;
+    update();
+}
+
+void Readout::paintEvent(QPaintEvent* /*event*/)
+{
+    QPainter painter(this);
+    const Theme& theme = look.theme();
+    const bool filled = frame == Frame::root && !shown.trimmed().isEmpty();
+    if (frame != Frame::none)
+        paintbox(painter, look, rect(), filled ? theme.accent : theme.button, filled ? theme.accent : theme.hairline,
+                 5);
+    QColor ink = filled ? theme.accenttext : theme.text;
+    if (frame == Frame::none && type != Type::strong)
+        ink = theme.label;
+    const double margin = (alignment & Qt::AlignLeft) && frame != Frame::none ? 8 * look.zoom() : look.zoom();
+    painttext(painter, QRectF(rect()).adjusted(margin, 0, -look.zoom(), 0), shown, look.font(type), ink,
+              alignment | Qt::AlignVCenter);
+}
+
+} // namespace ui

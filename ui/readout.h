@@ -1,0 +1,39 @@
+// SPDX-FileCopyrightText: 2026 The tonefret developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "ui/look.h"
+
+#include <QWidget>
+
+namespace ui {
+
+/// A text that the program shows and nobody types into.
+class Readout : public QWidget {
+    Q_OBJECT
+    Q_PROPERTY(QString text READ text)
+
+public:
+    enum class Frame : std::uint8_t {
+        none, ///< a caption: text alone
+        box,
+        root, ///< a box filled with the accent while it shows a note
+    };
+
+    Readout(const Look& shownlook, Type written, Frame drawn, Qt::Alignment placed, QWidget* parent);
+
+    QString text() const { return shown; }
+    void settext(const QString& text);
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    const Look& look;
+    Type type;
+    Frame frame;
+    Qt::Alignment alignment;
+    QString shown;
+};
+
+} // namespace ui

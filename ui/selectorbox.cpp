@@ -1,0 +1,99 @@
+// SPDX-FileCopyrightText: 2026 The tonefret developers
+// SPDX-License-Identifier: MIT
+#include "ui/selectorbox.h"
+
+#include "ui/paint.h"
+
+#include <QAbstractItemView>
+#include <QPainter>
+#include <QPainterPath>
+#include <QSignalBlocker>
+#include <QStyledItemDelegate>
+
+namespace ui {
+namespace {
+
+class TrimmedItems : public QStyledItemDelegate {
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+    QString displayText(const QVariant& value, const QLocale& /*locale*/) const override
+    {
+        return value.toString().trimmed();
+    }
+};
+
+void paintchevron(QPainter& painter, const Look& look, const QPointF& middle, const QColor& colour)
+{
+    const double reach = 3.5 * look.zoom();
+    QPainterPath path(middle + QPointF(-reach, -reach / 2));
+    path.lineTo(middle + QPointF(0, reach / 2));
+    path.lineTo(middle + QPointF(reach, -reach / 2));
+    painter.strokePath(path, QPen(colour, 1.5 * look.zoom(), Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+}
+
+} // namespace
+
+SelectorBox::SelectorBox(const Look& shownlook, QWidget* parent) : QComboBox(parent), look(shownlook)
+{
+    setFocusPolicy(Qt::TabFocus);
+    setMaxVisibleItems(20);
+}
+
+void SelectorBox::display(const QStringList& items, int index, const QString& text)
+{
+    const QSignalBlocker silent(this);
+    if (listed != items) {
+        clear();
+        addItems(items);
+        listed = items;
+    }
+    if (currentIndex() != index)
+        setCurrentIndex(index);
+    if (shown != text) {
+        shown = text;
+        update();
+    }
+}
+
+void SelectorBox::showPopup()
+{
+    setFont(look.font(Type::text));
+    if (!trimmeditems)
+        view()->setItemDelegate(trimmeditems = new TrimmedItems(this)); // not before: the list itself is made here
+    QComboBox::showPopup();
+}
+
+void SelectorBox::paintEvent(QPaintEvent* /*event*/)
+{
+    QPainter painter(this);
+    const Theme& theme = look.theme();
+    paintbox(painter, look, rect(), underMouse() ? theme.hover : theme.button, theme.hairline, 5);
+    const double margin = 8 * look.zoom();
+    const double arrowroom = 22 * look.zoom();
+    painttext(painter, QRectF(rect()).adjusted(margin, 0, -arrowroom, 0), shown.trimmed(), look.font(Type::text),
+              theme.text, Qt::AlignLeft | Qt::AlignVCenter);
+    paintchevron(painter, look, QPointF(width() - arrowroom / 2, height() / 2.0), theme.label);
+    if (hasFocus() && ring)
+        paintfocus(painter, look, rect(), 5);
+}
+
+void SelectorBox::focusInEvent(QFocusEvent* event)
+{
+    ring = bykeyboard(*event);
+    QComboBox::focusInEvent(event);
+}
+
+void SelectorBox::enterEvent(QEnterEvent* event)
+{
+    QComboBox::enterEvent(event);
+    update();
+}
+
+void SelectorBox::leaveEvent(QEvent* event)
+{
+    QComboBox::leaveEvent(event);
+    update();
+}
+
+} // namespace ui
