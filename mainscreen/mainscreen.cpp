@@ -21,15 +21,16 @@ constexpr double comfortable = 0.9; ///< of the display's free area, at most
 
 } // namespace
 
-MainScreen::MainScreen(Session& shown, ui::Stage& entered, ui::Look& look)
+MainScreen::MainScreen(Session& shown, ui::Stage& entered, ui::Look& shared)
     : session(shown),
-      stage(entered),
+      stage(entered), look(shared),
       canvas(new ui::Canvas(look, QSize(places::area.width, places::area.height), this)),
       menus(*menuBar(), shown, entered)
 {
     setObjectName(QStringLiteral("tonefret"));
     setWindowTitle(QStringLiteral("tonefret"));
     setCentralWidget(canvas);
+    dressmenubar();
     panels.push_back(std::make_unique<PianoPanel>(*canvas, session, stage));
     auto output = std::make_unique<OutputPanel>(*canvas, session, stage);
     auto takefocus = [panel = output.get()] { panel->focusreset(); };
@@ -65,6 +66,24 @@ void MainScreen::centre()
     const double left = room.left() + (room.width() - width()) / 2.0;
     const double top = room.top() + (room.height() - height()) / 2.0;
     move(qRound(left), qRound(top));
+}
+
+/// The menus stand on a card of their own above the paper.
+void MainScreen::dressmenubar()
+{
+    QPalette palette = menuBar()->palette();
+    if (palette.color(QPalette::Window) == look.theme().card)
+        return;
+    palette.setColor(QPalette::Window, look.theme().card);
+    palette.setColor(QPalette::Button, look.theme().card);
+    menuBar()->setPalette(palette);
+}
+
+void MainScreen::changeEvent(QEvent* event)
+{
+    QMainWindow::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange)
+        dressmenubar();
 }
 
 void MainScreen::closeEvent(QCloseEvent* event)

@@ -18,7 +18,7 @@ class MainScreen : public QMainWindow {
     Q_OBJECT
 
 public:
-    MainScreen(Session& shown, ui::Stage& entered, ui::Look& look);
+    MainScreen(Session& shown, ui::Stage& entered, ui::Look& shared);
 
     /// Shows the session's state. Cheap when little has changed.
     void display();
@@ -28,10 +28,14 @@ public:
 
 protected:
     void closeEvent(QCloseEvent* event) override;
+    void changeEvent(QEvent* event) override;
 
 private:
+    void dressmenubar();
+
     Session& session;
     ui::Stage& stage;
+    ui::Look& look;
     ui::Canvas* canvas;
     Menus menus;
     std::vector<std::unique_ptr<Panel>> panels;

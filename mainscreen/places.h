@@ -70,15 +70,15 @@ constexpr TwipRect noteplace(int i)
 {
     return {(64 + 36 * i) * px, 200 * px, 32 * px, 24 * px};
 }
-inline constexpr TwipRect reset{284 * px, 200 * px, 36 * px, 24 * px};
-inline constexpr TwipRect camera{324 * px, 200 * px, 52 * px, 24 * px};
+inline constexpr TwipRect reset{282 * px, 200 * px, 34 * px, 24 * px};
+inline constexpr TwipRect camera{320 * px, 200 * px, 56 * px, 24 * px};
 
 // Transposition and spelling
 inline constexpr TwipRect transposecaption{16 * px, 244 * px, 62 * px, 18 * px};
 inline constexpr TwipRect lineupcaption{78 * px, 244 * px, 110 * px, 18 * px};
-inline constexpr TwipRect sharps{260 * px, 243 * px, 40 * px, 20 * px};
-inline constexpr TwipRect flats{302 * px, 243 * px, 40 * px, 20 * px};
-inline constexpr TwipRect automatic{344 * px, 243 * px, 40 * px, 20 * px};
+inline constexpr TwipRect sharps{248 * px, 243 * px, 44 * px, 20 * px};
+inline constexpr TwipRect flats{294 * px, 243 * px, 44 * px, 20 * px};
+inline constexpr TwipRect automatic{340 * px, 243 * px, 44 * px, 20 * px};
 constexpr Twips rowtop(std::size_t row)
 {
     return (268 + 24 * static_cast<int>(row)) * px;

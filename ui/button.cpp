@@ -80,7 +80,7 @@ void Button::paintEvent(QPaintEvent* /*event*/)
     paintbox(painter, look, rect(), filled, chosenface ? filled : look.theme().hairline, corner);
     if (arrow != Qt::NoArrow)
         paintarrow(painter, look, rect(), arrow, ink());
-    const double margin = 4 * look.zoom();
+    const double margin = 2 * look.zoom();
     painttext(painter, QRectF(rect()).adjusted(margin, 0, -margin, 0), text(),
               look.font(font().bold() ? Type::strong : Type::text), ink());
     if (hasFocus() && ring)

@@ -18,16 +18,22 @@ void paintbox(QPainter& painter, const Look& look, const QRectF& box, const QCol
     painter.drawRoundedRect(box.adjusted(half, half, -half, -half), corner * look.zoom(), corner * look.zoom());
 }
 
+QFont fitted(const QFont& font, const QString& text, double width)
+{
+    const double needed = QFontMetricsF(font).horizontalAdvance(text);
+    if (needed <= width)
+        return font;
+    QFont smaller = font;
+    smaller.setPixelSize(qMax(1, static_cast<int>(font.pixelSize() * width / needed)));
+    return smaller;
+}
+
 void painttext(QPainter& painter, const QRectF& box, const QString& text, const QFont& font, const QColor& colour,
                Qt::Alignment alignment)
 {
     if (text.isEmpty())
         return;
-    QFont fitted = font;
-    const double needed = QFontMetricsF(font).horizontalAdvance(text);
-    if (needed > box.width())
-        fitted.setPixelSize(qMax(1, static_cast<int>(font.pixelSize() * box.width() / needed)));
-    painter.setFont(fitted);
+    painter.setFont(fitted(font, text, box.width()));
     painter.setPen(colour);
     painter.drawText(box, static_cast<int>(alignment) | Qt::TextSingleLine, text);
 }

@@ -15,6 +15,9 @@ namespace ui {
 void paintbox(QPainter& painter, const Look& look, const QRectF& box, const QColor& face, const QColor& edge,
               double corner);
 
+/// The font, in a smaller size where `text` would be wider than `width` pixels.
+QFont fitted(const QFont& font, const QString& text, double width);
+
 /// Text on one line within `box`, in a smaller size where it would not fit.
 void painttext(QPainter& painter, const QRectF& box, const QString& text, const QFont& font, const QColor& colour,
                Qt::Alignment alignment = Qt::AlignCenter);

@@ -80,12 +80,13 @@ void PianoKey::paintbody(QPainter& painter) const
 void PianoKey::paintcaption(QPainter& painter) const
 {
     const Type type = kind == Kind::black || ismark(back) ? Type::mark : Type::text;
+    const QFont font = fitted(look.font(type), QStringLiteral("G#"), width() - look.zoom()); // one size on all keys
     const double lineheight = 13 * look.zoom();
     const QStringList names = text().split(QLatin1Char(' '));
     double top =
         height() - (kind == Kind::white ? 8 : 12) * look.zoom() - lineheight * static_cast<double>(names.size());
     for (const QString& name : names) {
-        painttext(painter, QRectF(2, top, width() - 4, lineheight), name, look.font(type), markink());
+        painttext(painter, QRectF(0, top, width(), lineheight), name, font, markink());
         top += lineheight;
     }
 }
