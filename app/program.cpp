@@ -15,7 +15,7 @@ Program::Program(ui::QtDesktop& opened)
         auto* screen = new instruments::RetuneScreen(look, owner);
         QObject::connect(screen, &instruments::RetuneScreen::cmdret_Click, screen,
                          [this](int index) { stage.act([&] { session.cmdret_Click(index); }); });
-        QObject::connect(screen, &instruments::RetuneScreen::Form_Unload, screen,
+        QObject::connect(screen, &QDialog::finished, screen,
                          [this] { stage.act([&] { session.frmretune_Unload(); }); });
         return screen;
     });

@@ -5,7 +5,6 @@
 #include "core/notes.h"
 #include "ui/button.h"
 
-#include <QCloseEvent>
 #include <QGridLayout>
 #include <QLabel>
 #include <QScreen>
@@ -64,12 +63,6 @@ void RetuneScreen::showEvent(QShowEvent* event)
     adjustSize();
     const QRect room = screen()->availableGeometry();
     move(room.center() - rect().center());
-}
-
-void RetuneScreen::closeEvent(QCloseEvent* event)
-{
-    Q_EMIT Form_Unload();
-    QDialog::closeEvent(event);
 }
 
 } // namespace instruments

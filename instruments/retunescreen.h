@@ -8,7 +8,7 @@
 
 namespace instruments {
 
-/// Asks for the note to which a string is to be tuned by hand. Modal; closing it chooses nothing.
+/// Asks for the note to which a string is to be tuned by hand. Modal; however it closes, `finished` tells of it.
 class RetuneScreen : public QDialog {
     Q_OBJECT
 
@@ -17,11 +17,9 @@ public:
 
 Q_SIGNALS:
     void cmdret_Click(int index); ///< 0 "no retune", 1 to 12 for C to B
-    void Form_Unload();
 
 protected:
     void showEvent(QShowEvent* event) override;
-    void closeEvent(QCloseEvent* event) override;
 };
 
 } // namespace instruments

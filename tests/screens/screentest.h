@@ -1,0 +1,86 @@
+// SPDX-FileCopyrightText: 2026 The tonefret developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "app/program.h"
+#include "tests/support/recordingdesktop.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QComboBox>
+#include <QTest>
+
+#include <gtest/gtest.h>
+
+#include <stdexcept>
+
+namespace tests {
+
+/// The real screens over a desktop whose messages are kept instead of shown.
+class QuietDesktop : public ui::QtDesktop {
+public:
+    std::vector<Told> told;
+
+    void tell(ui::Icon icon, const std::string& text) override { told.push_back({icon, text}); }
+};
+
+inline std::string str(const QString& text)
+{
+    return text.toStdString();
+}
+
+/// One program of its own for each test, opened on its main screen.
+class ScreenTest : public testing::Test {
+protected:
+    ScreenTest() { program.start(); }
+
+    /// The control of a name on a screen, or a failure that lists what there is.
+    template <typename Control = QWidget>
+    Control* control(const QString& name, QObject* screen) const
+    {
+        if (auto* found = screen->findChild<Control*>(name))
+            return found;
+        std::string message = "no control " + str(name) + "; there are:";
+        for (const QObject* each : screen->findChildren<QObject*>())
+            if (!each->objectName().isEmpty())
+                message += " " + str(each->objectName());
+        throw std::runtime_error(message);
+    }
+    template <typename Control = QWidget>
+    Control* control(const QString& name)
+    {
+        return control<Control>(name, &program.mainscreen);
+    }
+
+    void click(const QString& name) { QTest::mouseClick(control(name), Qt::LeftButton); }
+    void pick(const QString& action) { control<QAction>(action)->trigger(); }
+
+    /// Picks an item from a list as a person does, the shown one too.
+    void choose(const QString& name, int item)
+    {
+        auto* list = control<QComboBox>(name);
+        list->setCurrentIndex(item);
+        Q_EMIT list->activated(item);
+    }
+
+    std::string shown(const QString& name, const char* property = "text")
+    {
+        return str(control<QObject>(name)->property(property).toString());
+    }
+    std::string backcolour(const QString& name)
+    {
+        return str(control(name)->property("backColor").value<QColor>().name());
+    }
+
+    QuietDesktop desktop;
+    app::Program program{desktop};
+    mainscreen::Session& session = program.session;
+};
+
+/// "key_7": a member of an array of controls.
+inline QString member(const char* array, int index)
+{
+    return QString::fromLatin1("%1_%2").arg(QLatin1String(array)).arg(index);
+}
+
+} // namespace tests
