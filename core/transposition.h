@@ -9,7 +9,7 @@
 
 namespace core {
 
-/// Fifteen consecutive semitones by name, upward from the first: an octave and a minor third.
+/// Fifteen consecutive semitones by name, upward from the first: an octave and the three first names again.
 using ScaleRow = std::array<std::string, 15>;
 
 enum class Shift : int { left = -1, right = 1 };
