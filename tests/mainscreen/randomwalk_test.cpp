@@ -13,7 +13,8 @@ namespace {
 using mainscreen::Session;
 using tests::Walk;
 
-constexpr int stepsperseed = 2000;
+constexpr int comparedsteps = 2000; // for each seed
+constexpr int spelledsteps = 500;
 
 /// The last acts before a failure, oldest first.
 class Past {
@@ -43,7 +44,7 @@ TEST_P(RandomWalk, everyAct_leavesWhatTheModelShows)
     Walk walk(GetParam());
     Past past;
     ASSERT_EQ(tests::differences(walk.s, walk.model), "") << "at the start";
-    for (int step = 0; step < stepsperseed; ++step) {
+    for (int step = 0; step < comparedsteps; ++step) {
         past.add(walk.step());
         ASSERT_EQ(tests::differences(walk.s, walk.model), "") << "step " << step << " after\n" << past.told();
         walk.s.desktop.told.clear();
@@ -80,7 +81,7 @@ TEST_P(RandomWalk, everyName_followsTheMode)
 {
     Walk walk(GetParam());
     Past past;
-    for (int step = 0; step < stepsperseed; ++step) {
+    for (int step = 0; step < spelledsteps; ++step) {
         past.add(walk.step());
         ASSERT_EQ(misspelled(walk.s.session), "") << "mode " << walk.s.mode() << ", step " << step << " after\n"
                                                   << past.told();
