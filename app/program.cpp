@@ -5,6 +5,14 @@
 #include "instruments/retunescreen.h"
 
 namespace app {
+namespace {
+
+QString openname(const mainscreen::Session& session, int row)
+{
+    return mainscreen::totext(session.fretboard.cell.at(static_cast<std::size_t>(row)).text);
+}
+
+} // namespace
 
 Program::Program(ui::QtDesktop& opened)
     : desktop(opened), session(opened), stage(opened), mainscreen(session, stage, look)
@@ -13,6 +21,7 @@ Program::Program(ui::QtDesktop& opened)
     desktop.setmain(&mainscreen);
     desktop.add(ui::Screen::frmretune, [this](QWidget* owner) {
         auto* screen = new instruments::RetuneScreen(look, owner);
+        stage.onchange([this, screen] { screen->display(openname(session, session.retune.row)); });
         QObject::connect(screen, &instruments::RetuneScreen::cmdret_Click, screen,
                          [this](int index) { stage.act([&] { session.cmdret_Click(index); }); });
         QObject::connect(screen, &QDialog::finished, screen,

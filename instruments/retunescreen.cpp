@@ -6,7 +6,6 @@
 #include "ui/button.h"
 
 #include <QGridLayout>
-#include <QLabel>
 #include <QScreen>
 
 namespace instruments {
@@ -14,6 +13,10 @@ namespace {
 
 constexpr int notesinrow = 4;
 constexpr int notes = 12;
+constexpr int lastrow = notes / notesinrow + 1;
+constexpr const char* note =
+    "Note: if you had just wanted to enter a note using the guitar / strings area - please use "
+    "a note that is on the actual fretboard and not on the end such as this one.";
 
 QString caption(int index)
 {
@@ -28,38 +31,44 @@ QString caption(int index)
 
 } // namespace
 
-RetuneScreen::RetuneScreen(const ui::Look& look, QWidget* owner) : QDialog(owner)
+RetuneScreen::RetuneScreen(const ui::Look& shown, QWidget* owner)
+    : QDialog(owner), look(shown), heading(new QLabel(this)), explanation(new QLabel(QString::fromLatin1(note), this))
 {
     setObjectName(QStringLiteral("frmretune"));
     setWindowTitle(QStringLiteral("custom string retune"));
     setWindowModality(Qt::ApplicationModal);
+    heading->setObjectName(QStringLiteral("retuneheading"));
+    explanation->setObjectName(QStringLiteral("Label2"));
+    explanation->setWordWrap(true);
     auto* grid = new QGridLayout(this);
     const int room = qRound(16 * look.zoom());
     grid->setContentsMargins(room, room, room, room);
     grid->setSpacing(qRound(6 * look.zoom()));
+    grid->addWidget(heading, 0, 0, 1, notesinrow);
     for (int index = 0; index <= notes; ++index) {
         auto* button = new ui::Button(look, caption(index), this);
         button->setObjectName(QStringLiteral("cmdret_%1").arg(index));
         button->setAutoDefault(false);
         connect(button, &QAbstractButton::clicked, this, [this, index] { Q_EMIT cmdret_Click(index); });
         if (index == 0)
-            grid->addWidget(button, notes / notesinrow + 1, 0, 1, notesinrow);
+            grid->addWidget(button, lastrow, 0, 1, notesinrow);
         else
-            grid->addWidget(button, (index - 1) / notesinrow, (index - 1) % notesinrow);
+            grid->addWidget(button, 1 + (index - 1) / notesinrow, (index - 1) % notesinrow);
     }
-    auto* label = new QLabel(QStringLiteral("Note: if you had just wanted to enter a note using the guitar / strings "
-                                            "area - please use a note that is on the actual fretboard and not on the "
-                                            "end such as this one."),
-                             this);
-    label->setObjectName(QStringLiteral("Label2"));
-    label->setWordWrap(true);
-    label->setFont(look.font(ui::Type::text));
-    grid->addWidget(label, notes / notesinrow + 2, 0, 1, notesinrow);
+    grid->addWidget(explanation, lastrow + 1, 0, 1, notesinrow);
+}
+
+void RetuneScreen::display(const QString& opennote)
+{
+    heading->setText(QStringLiteral("Tune the %1 string to").arg(opennote));
 }
 
 void RetuneScreen::showEvent(QShowEvent* event)
 {
     QDialog::showEvent(event);
+    setPalette(look.palettefor(look.theme().surface));
+    heading->setFont(look.font(ui::Type::strong));
+    explanation->setFont(look.font(ui::Type::text));
     adjustSize();
     const QRect room = screen()->availableGeometry();
     move(room.center() - rect().center());

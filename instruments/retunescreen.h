@@ -5,6 +5,7 @@
 #include "ui/look.h"
 
 #include <QDialog>
+#include <QLabel>
 
 namespace instruments {
 
@@ -13,13 +14,21 @@ class RetuneScreen : public QDialog {
     Q_OBJECT
 
 public:
-    RetuneScreen(const ui::Look& look, QWidget* owner);
+    RetuneScreen(const ui::Look& shown, QWidget* owner);
+
+    /// Names the string in question by the note that it is tuned to.
+    void display(const QString& opennote);
 
 Q_SIGNALS:
     void cmdret_Click(int index); ///< 0 "no retune", 1 to 12 for C to B
 
 protected:
     void showEvent(QShowEvent* event) override;
+
+private:
+    const ui::Look& look;
+    QLabel* heading;
+    QLabel* explanation;
 };
 
 } // namespace instruments

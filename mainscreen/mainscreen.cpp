@@ -11,19 +11,22 @@
 #include "mainscreen/transposepanel.h"
 
 #include <QCloseEvent>
+#include <QResizeEvent>
 #include <QScreen>
 
 namespace mainscreen {
 namespace {
 
 constexpr std::array<double, 4> openingzooms{2, 1.5, 1.25, 1};
+constexpr double menupixels = 12;   ///< size of the menus' type at zoom 1
 constexpr double comfortable = 0.9; ///< of the display's free area, at most
 
 } // namespace
 
 MainScreen::MainScreen(Session& shown, ui::Stage& entered, ui::Look& shared)
     : session(shown),
-      stage(entered), look(shared),
+      stage(entered),
+      look(shared),
       canvas(new ui::Canvas(look, QSize(places::area.width, places::area.height), this)),
       menus(*menuBar(), shown, entered)
 {
@@ -56,9 +59,9 @@ void MainScreen::display()
 void MainScreen::centre()
 {
     const QRect room = screen()->availableGeometry();
-    const int menuheight = menuBar()->sizeHint().height();
     for (const double zoom : openingzooms) {
-        const QSize wanted = canvas->sizeat(zoom) + QSize(0, menuheight);
+        scalemenubar(zoom);
+        const QSize wanted = canvas->sizeat(zoom) + QSize(0, menuBar()->sizeHint().height());
         resize(wanted);
         if (wanted.width() <= room.width() * comfortable && wanted.height() <= room.height() * comfortable)
             break;
@@ -71,12 +74,22 @@ void MainScreen::centre()
 /// The menus stand on a card of their own above the paper.
 void MainScreen::dressmenubar()
 {
-    QPalette palette = menuBar()->palette();
-    if (palette.color(QPalette::Window) == look.theme().card)
-        return;
-    palette.setColor(QPalette::Window, look.theme().card);
-    palette.setColor(QPalette::Button, look.theme().card);
-    menuBar()->setPalette(palette);
+    menuBar()->setPalette(look.palettefor(look.theme().card));
+}
+
+void MainScreen::scalemenubar(double zoom)
+{
+    QFont font = menuBar()->font();
+    font.setPixelSize(qRound(menupixels * zoom));
+    if (font != menuBar()->font())
+        menuBar()->setFont(font);
+}
+
+// By the window, not by the canvas: the canvas gets what the menus leave, so each would chase the other.
+void MainScreen::resizeEvent(QResizeEvent* event)
+{
+    QMainWindow::resizeEvent(event);
+    scalemenubar(canvas->zoomin(size()));
 }
 
 void MainScreen::changeEvent(QEvent* event)

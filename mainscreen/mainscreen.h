@@ -29,9 +29,11 @@ public:
 protected:
     void closeEvent(QCloseEvent* event) override;
     void changeEvent(QEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
 
 private:
     void dressmenubar();
+    void scalemenubar(double zoom);
 
     Session& session;
     ui::Stage& stage;

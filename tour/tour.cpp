@@ -53,7 +53,8 @@ public:
     }
 
 private:
-    template <typename Control> Control* find(const char* name) const
+    template <typename Control>
+    Control* find(const char* name) const
     {
         auto* found = program.mainscreen.findChild<Control*>(QString::fromLatin1(name));
         if (!found)

@@ -17,9 +17,15 @@ Canvas::Canvas(Look& shownlook, QSize twips, QWidget* parent) : QWidget(parent),
 
 QSize Canvas::sizeat(double zoom) const
 {
-    Look scaled;
-    scaled.setzoom(zoom);
-    return scaled.place({0, 0, area.width(), area.height()}).size();
+    return {qRound(Look::pixelsat(zoom, area.width())), qRound(Look::pixelsat(zoom, area.height()))};
+}
+
+double Canvas::zoomin(QSize room) const
+{
+    const QSize atone = sizeat(1);
+    const double fitting = std::min(static_cast<double>(room.width()) / atone.width(),
+                                    static_cast<double>(room.height()) / atone.height());
+    return std::clamp(fitting, smallestzoom, largestzoom);
 }
 
 void Canvas::place(QWidget* control, const TwipRect& where)
@@ -43,11 +49,8 @@ void Canvas::move(const Placed& placed)
 
 void Canvas::layoutcontrols()
 {
-    const QSize atone = sizeat(1);
-    const double fitting =
-        std::min(static_cast<double>(width()) / atone.width(), static_cast<double>(height()) / atone.height());
-    shown.setzoom(std::clamp(fitting, smallestzoom, largestzoom));
-    const QSize used = shown.place({0, 0, area.width(), area.height()}).size();
+    shown.setzoom(zoomin(size()));
+    const QSize used = sizeat(shown.zoom());
     origin = QPoint(std::max(0, (width() - used.width()) / 2), std::max(0, (height() - used.height()) / 2));
     for (const Placed& placed : controls)
         move(placed);

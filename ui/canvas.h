@@ -32,6 +32,8 @@ public:
 
     const Look& look() const { return shown; }
     QSize sizeat(double zoom) const;
+    /// The largest zoom at which everything fits into `room`.
+    double zoomin(QSize room) const;
     QSize sizeHint() const override { return sizeat(1); }
     QSize minimumSizeHint() const override { return sizeat(smallestzoom); }
 

@@ -71,6 +71,16 @@ void Look::followpalette(const QPalette& palette)
     current = dark ? &darktheme() : &lighttheme();
 }
 
+QPalette Look::palettefor(const QColor& ground) const
+{
+    QPalette palette = QGuiApplication::palette();
+    palette.setColor(QPalette::Window, ground);
+    palette.setColor(QPalette::WindowText, current->text);
+    palette.setColor(QPalette::Button, ground);
+    palette.setColor(QPalette::ButtonText, current->text);
+    return palette;
+}
+
 void Look::setzoom(double zoom)
 {
     factor = zoom;

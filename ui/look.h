@@ -61,12 +61,15 @@ public:
 
     const Theme& theme() const { return *current; }
     void followpalette(const QPalette& palette);
+    /// The theme's colours for a platform's own control on `ground`.
+    QPalette palettefor(const QColor& ground) const;
 
     /// Zoom 1 is 15 twips to a pixel, the size of the screens as they are measured.
     double zoom() const { return factor; }
     void setzoom(double zoom);
 
-    double pixels(double twips) const { return twips * factor / twipsperpixel; }
+    double pixels(double twips) const { return pixelsat(factor, twips); }
+    static constexpr double pixelsat(double zoom, double twips) { return twips * zoom / twipsperpixel; }
     QRectF exact(const TwipRect& r) const;
     /// The same on whole pixels; neighbours that touch in twips touch in pixels.
     QRect place(const TwipRect& r) const;

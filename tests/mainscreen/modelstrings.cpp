@@ -69,7 +69,7 @@ void Model::Form_Load()
     for (int k = 0; k < 25; ++k)
         caption[static_cast<std::size_t>(k)] = written(k % 12, 0);
     caption[25] = "Reset";
-    keyback.fill(0xFFFFFF);
+    keyback.back() = 0x1000000; // the Reset button: the desktop's own colour
     for (std::size_t k = 0; k < 30; ++k)
         trans1[k] = written(static_cast<int>(k % 15 % 12), 0);
     cboleft = {{"Right Hand", "Left Hand"}, "Right Hand", 0};
