@@ -69,7 +69,9 @@ void RetuneScreen::showEvent(QShowEvent* event)
     setPalette(look.palettefor(look.theme().surface));
     heading->setFont(look.font(ui::Type::strong));
     explanation->setFont(look.font(ui::Type::text));
-    adjustSize();
+    layout()->activate(); // the explanation's height follows from its width
+    const int wide = sizeHint().width();
+    resize(wide, layout()->totalHeightForWidth(wide));
     const QRect room = screen()->availableGeometry();
     move(room.center() - rect().center());
 }

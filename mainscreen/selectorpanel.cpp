@@ -21,7 +21,7 @@ SelectorPanel::SelectorPanel(ui::Canvas& drawn, Session& shown, ui::Stage& enter
         caption(list.captionname, list.caption, ui::Type::heading, places::captionabove(list.where));
         list.box = put(new ui::SelectorBox(canvas.look(), &canvas), QString::fromLatin1(list.name), list.where);
         list.box->setAccessibleName(QString::fromLatin1(list.caption));
-        QObject::connect(list.box, &QComboBox::activated, list.box, [this, list, chosen](int item) {
+        QObject::connect(list.box, &ui::SelectorBox::picked, list.box, [this, list, chosen](int item) {
             stage.act([&] { (session.*list.handler)(item); });
             if (list.givesfocusback)
                 chosen();

@@ -78,6 +78,10 @@ QPalette Look::palettefor(const QColor& ground) const
     palette.setColor(QPalette::WindowText, current->text);
     palette.setColor(QPalette::Button, ground);
     palette.setColor(QPalette::ButtonText, current->text);
+    palette.setColor(QPalette::Base, ground);
+    palette.setColor(QPalette::Text, current->text);
+    palette.setColor(QPalette::Highlight, current->accent);
+    palette.setColor(QPalette::HighlightedText, current->accenttext);
     return palette;
 }
 

@@ -10,6 +10,8 @@
 #include <QSignalBlocker>
 #include <QStyledItemDelegate>
 
+#include <utility>
+
 namespace ui {
 namespace {
 
@@ -38,6 +40,24 @@ SelectorBox::SelectorBox(const Look& shownlook, QWidget* parent) : QComboBox(par
 {
     setFocusPolicy(Qt::TabFocus);
     setMaxVisibleItems(20);
+    connect(this, &QComboBox::currentIndexChanged, this, &SelectorBox::tellofchange);
+    connect(this, &QComboBox::activated, this, &SelectorBox::tellofactivation);
+}
+
+// A pick from the list comes as a change and then as an activation; one by typing or by assistive technology only as a
+// change; one of the shown item only as an activation.
+void SelectorBox::tellofchange(int item)
+{
+    toldof = item;
+    QMetaObject::invokeMethod(
+        this, [this] { toldof = -1; }, Qt::QueuedConnection);
+    Q_EMIT picked(item);
+}
+
+void SelectorBox::tellofactivation(int item)
+{
+    if (std::exchange(toldof, -1) != item)
+        Q_EMIT picked(item);
 }
 
 void SelectorBox::display(const QStringList& items, int index, const QString& text)
@@ -59,6 +79,7 @@ void SelectorBox::display(const QStringList& items, int index, const QString& te
 void SelectorBox::showPopup()
 {
     setFont(look.font(Type::text));
+    setPalette(look.palettefor(look.theme().card));
     if (!trimmeditems)
         view()->setItemDelegate(trimmeditems = new TrimmedItems(this)); // not before: the list itself is made here
     QComboBox::showPopup();

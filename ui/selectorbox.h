@@ -9,7 +9,7 @@
 namespace ui {
 
 /// A drop-down list that cannot be typed into and can show a text that is none of its items.
-/// It tells of every pick by `activated`, that of the shown item too. Blanks around an item are its own, but not drawn.
+/// Blanks around an item are its own, but not drawn.
 class SelectorBox : public QComboBox {
     Q_OBJECT
     Q_PROPERTY(QString currentText READ shownText)
@@ -20,6 +20,11 @@ public:
     void display(const QStringList& items, int index, const QString& text);
     QString shownText() const { return shown; }
 
+Q_SIGNALS:
+    /// A person picked an item: from the opened list, by wheel or keys, or through assistive technology; once for each
+    /// pick, and that of the shown item counts too.
+    void picked(int item);
+
 protected:
     void paintEvent(QPaintEvent* event) override;
     void showPopup() override;
@@ -28,10 +33,14 @@ protected:
     void focusInEvent(QFocusEvent* event) override;
 
 private:
+    void tellofchange(int item);
+    void tellofactivation(int item);
+
     const Look& look;
     QAbstractItemDelegate* trimmeditems = nullptr;
     QStringList listed;
     QString shown;
+    int toldof = -1;   ///< the item whose change was told of, until its activation comes or cannot come any more
     bool ring = false; ///< the keyboard brought the focus here
 };
 

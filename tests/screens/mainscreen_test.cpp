@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "tests/screens/screentest.h"
 #include "ui/button.h"
+#include "ui/selectorbox.h"
 
 #include <QAbstractItemView>
 #include <QMessageBox>
@@ -74,6 +75,25 @@ TEST_F(MainScreenTest, pickInTheOpenedList_changesTheFamily)
     QTest::keyClick(items, Qt::Key_Return);
     EXPECT_EQ(shown(QStringLiteral("cbotype"), "currentText"), "         BASS");
     EXPECT_EQ(shown(QStringLiteral("cbotuning"), "currentText"), "4 string normal EADG");
+}
+
+TEST_F(MainScreenTest, everyWayOfPicking_actsOnce)
+{
+    auto* list = control<QComboBox>(QStringLiteral("cbopreset"));
+    int picks = 0;
+    QObject::connect(static_cast<ui::SelectorBox*>(list), &ui::SelectorBox::picked, list, [&picks] { ++picks; });
+    const std::pair<const char*, std::function<void()>> ways[] = {
+        {"0 normal - open", [&] { QTest::keyClick(list, Qt::Key_Down); }},
+        {"show all notes", [&] { QTest::keyClick(list, Qt::Key_S); }}, // typing tells of no activation
+        {"2nd fret  capo / bar", [&] { list->setCurrentIndex(2); }},   // nor does assistive technology
+        {"2nd fret  capo / bar", [&] { Q_EMIT list->activated(2); }},  // the shown item again
+    };
+    for (int expected = 1; const auto& [text, pick] : ways) {
+        pick();
+        QApplication::processEvents();
+        EXPECT_EQ(shown(QStringLiteral("cbopreset"), "currentText"), text);
+        EXPECT_EQ(picks, expected++) << text;
+    }
 }
 
 TEST_F(MainScreenTest, choiceOfFamily_movesTheFocusToReset)
