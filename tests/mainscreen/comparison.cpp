@@ -98,7 +98,8 @@ void comparespelling(Comparison& c, const mainscreen::Session& session, const Mo
 
 void comparebox(Comparison& c, const char* name, const mainscreen::Selector& selector, const Box& box)
 {
-    c.compare(name, joined(selector.items), joined(box.items));
+    if (selector.items != box.items)
+        c.compare(name, joined(selector.items), joined(box.items));
     c.compare(name, selector.text, box.text);
     c.compare(name, selector.index, box.listindex);
 }

@@ -13,7 +13,7 @@ namespace {
 using mainscreen::Session;
 using tests::Walk;
 
-constexpr int comparedsteps = 2000; // for each seed
+constexpr int comparedsteps = 1700; // for each seed
 constexpr int spelledsteps = 500;
 
 /// The last acts before a failure, oldest first.
