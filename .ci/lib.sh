@@ -22,3 +22,8 @@ failed() {
 sources() {
     git ls-files '*.cpp' '*.h'
 }
+
+# Runs a search: to find nothing is no error, not to be able to search is one.
+search() {
+    "$@" || [ $? -eq 1 ]
+}
