@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "app/program.h"
 
+#include "custom/arrangescreen.h"
+#include "custom/customscreen.h"
 #include "instruments/retunescreen.h"
 
 namespace app {
@@ -28,6 +30,39 @@ Program::Program(ui::QtDesktop& opened)
                          [this] { stage.act([&] { session.frmretune_Unload(); }); });
         return screen;
     });
+    desktop.add(ui::Screen::custom, [this](QWidget* owner) { return makecustom(owner); });
+    desktop.add(ui::Screen::arrange, [this](QWidget* owner) { return makearrange(owner); });
+}
+
+QWidget* Program::makecustom(QWidget* owner)
+{
+    using custom::CustomScreen;
+    auto* screen = new CustomScreen(session.editform, stage, look, owner);
+    stage.onchange([shown = QPointer(screen)] {
+        if (shown)
+            shown->display();
+    });
+    const auto join = [this, screen](void (CustomScreen::*told)(), void (mainscreen::Session::*procedure)()) {
+        QObject::connect(screen, told, screen, [this, procedure] { stage.act([&] { (session.*procedure)(); }); });
+    };
+    join(&CustomScreen::closed, &mainscreen::Session::customexit);
+    join(&CustomScreen::cmdsettings_Click, &mainscreen::Session::cmdsettings_Click);
+    join(&CustomScreen::cmdarrange_Click, &mainscreen::Session::mnuarrange_Click);
+    return screen;
+}
+
+QWidget* Program::makearrange(QWidget* owner)
+{
+    using custom::ArrangeScreen;
+    auto* screen = new ArrangeScreen(session.customtable, look, owner);
+    stage.onchange([shown = QPointer(screen)] {
+        if (shown)
+            shown->display();
+    });
+    QObject::connect(screen, &ArrangeScreen::txtx_DragDrop, screen,
+                     [this](int target, int source) { stage.act([&] { session.txtx_DragDrop(target, source); }); });
+    QObject::connect(screen, &ArrangeScreen::closed, screen, [this] { stage.act([this] { session.endform(); }); });
+    return screen;
 }
 
 void Program::start()

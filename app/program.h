@@ -24,6 +24,10 @@ public:
     ui::Stage stage;
     ui::Look look;
     mainscreen::MainScreen mainscreen;
+
+private:
+    QWidget* makecustom(QWidget* owner);
+    QWidget* makearrange(QWidget* owner);
 };
 
 } // namespace app

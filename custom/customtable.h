@@ -32,6 +32,19 @@ std::optional<std::size_t> findentry(const CustomTable& table, std::string_view 
 /// "?" for any other character.
 std::string getnotename(char digit, const core::NoteSpelling& spelling);
 
+/// The character of entry data that stands for a note, spelled in either way ("0" is C, "B" is B); "?" for any other
+/// text, the empty one of an unused string too.
+char getnotedata(std::string_view name);
+
+/// Character `position` (0..7) of entry data; "?" where the data ends before it or the character is beyond ASCII.
+char dataat(const Entry& entry, std::size_t position);
+
+/// Moves the entries up over the free places between them, in their order.
+void datablankelim(CustomTable& table);
+
+/// The first free place; `placecount` when all are used.
+std::size_t indexnew(const CustomTable& table);
+
 /// The layout that the second character of entry data stands for; six strings for any but "0", "1" and "2".
 instruments::StringLayout layoutof(char digit);
 

@@ -6,6 +6,7 @@
 #include "core/notes.h"
 #include "core/transposition.h"
 #include "custom/customtable.h"
+#include "custom/editform.h"
 #include "instruments/capo.h"
 #include "instruments/fretboard.h"
 #include "mainscreen/keyboard.h"
@@ -57,7 +58,7 @@ enum class Reread : std::uint8_t {
 /// Screens show what stands here and keep nothing of their own. A procedure runs to its end before the next event.
 class Session {
 public:
-    explicit Session(ui::Desktop& opened) : desktop(opened) {}
+    explicit Session(ui::Desktop& opened) : editform(customtable, spelling, customchanged, opened), desktop(opened) {}
 
     core::NoteSpelling spelling;
     SpellingMarks marks;
@@ -82,6 +83,9 @@ public:
 
     custom::CustomTable customtable;
     bool customchanged = false; ///< something is to be saved at the end; never cleared during a run
+    custom::EditForm editform; ///< of the screen `custom`
+    bool customshown = false;  ///< the screen `custom` is open
+    bool arrangeshown = false; ///< the screen `arrange` is open
     print::PageSettings pagesettings;
     Tips tips;
 
@@ -148,6 +152,14 @@ public:
     void cmdret_Click(int index); ///< a button of the retune screen: 0 no retune, 1 to 12 for C to B
     void frmretune_Unload();
     void stringretune();
+
+    // The user's own tunings
+    void mnucustom_Click();   ///< opens the edit screen; one that is open keeps what it shows
+    void cmdsettings_Click(); ///< the edit screen's
+    void customexit();        ///< closes the edit screen
+    void mnuarrange_Click();
+    void txtx_DragDrop(int target, int source); ///< exchanges two places, 0..50
+    void endform();                             ///< closes the arrange screen
 
 private:
     void setnote(std::size_t i, const std::string& text);

@@ -52,6 +52,8 @@ void Session::tonefretexit()
     if (ended)
         return;
     ended = true;
+    customshown = false;
+    arrangeshown = false;
     desktop.leave();
 }
 

@@ -82,13 +82,14 @@ bool Session::applycustom()
         desktop.tell(ui::Icon::critical, "Error, cannot find that stored item");
         return false;
     }
-    const std::string& data = customtable.at(*place).data;
-    cboleft.settext(data.at(0) == '0' ? righthand : lefthand);
+    const custom::Entry& entry = customtable.at(*place);
+    cboleft.settext(custom::dataat(entry, 0) == '0' ? righthand : lefthand);
     dorightlefthand();
-    fretboard.arrange(custom::layoutof(data.at(1)));
+    fretboard.arrange(custom::layoutof(custom::dataat(entry, 1)));
     for (int k = 0; k < instruments::rowcount; ++k)
         fretboard.doline(instruments::lastrow - k,
-                         custom::getnotename(data.at(static_cast<std::size_t>(k) + 2), spelling), spelling);
+                         custom::getnotename(custom::dataat(entry, static_cast<std::size_t>(k) + 2), spelling),
+                         spelling);
     return true;
 }
 

@@ -43,11 +43,15 @@ public:
         Q_EMIT list->activated(index);
     }
 
-    void keep(const char* name) const
+    void pick(const char* item) const { find<QAction>(item)->trigger(); }
+
+    /// A picture of the main screen, or of another by its name.
+    void keep(const char* name, const char* screen = nullptr) const
     {
         QApplication::processEvents();
+        QWidget& shown = screen ? *find<QWidget>(screen) : program.mainscreen;
         const QString path = folder.filePath(QString::fromLatin1(name) + QStringLiteral(".png"));
-        if (!program.mainscreen.grab().save(path))
+        if (!shown.grab().save(path))
             throw std::runtime_error("cannot write " + path.toStdString());
         QTextStream(stdout) << path << '\n';
     }
@@ -81,6 +85,21 @@ void usepicturefont()
         QApplication::setFont(QFont(wanted, QApplication::font().pointSize()));
 }
 
+/// The screens of the user's own tunings, with some in store.
+void customwalk(app::Program& program, const Walker& walker, const std::string& ending)
+{
+    for (std::size_t place = 0; const char* name : {"Open C, parlour guitar", "Banjo, double C",
+                                                    "Cigar box, three strings", "Bouzouki", "Baritone ukulele, low D"})
+        program.session.customtable.at(place++) = {name, "03070740"};
+    walker.pick("mnucustom");
+    program.session.editform.txtname_Change("Nashville, high strung");
+    walker.click("cmdsettings");
+    walker.click("cmdret_5");
+    walker.keep(("custom" + ending).c_str(), "custom");
+    walker.click("cmdarrange");
+    walker.keep(("arrange" + ending).c_str(), "arrange");
+}
+
 void lightwalk(const QDir& folder)
 {
     ui::QtDesktop desktop;
@@ -104,6 +123,7 @@ void lightwalk(const QDir& folder)
     walker.keep("capo");
     walker.choose("cbopreset", "show all notes");
     walker.keep("ukulele");
+    customwalk(program, walker, "");
 }
 
 void darkwalk(const QDir& folder)
@@ -120,6 +140,7 @@ void darkwalk(const QDir& folder)
     walker.click("key_2");
     walker.click("Crd_3");
     walker.keep("banjo");
+    customwalk(program, walker, "-dark");
 }
 
 } // namespace

@@ -9,8 +9,10 @@ namespace ui {
 
 enum class Icon : std::uint8_t { information, critical };
 
+enum class Answer : std::uint8_t { yes, no };
+
 /// The screens that stand over the main screen.
-enum class Screen : std::uint8_t { frmretune };
+enum class Screen : std::uint8_t { frmretune, custom, arrange };
 
 /// What the program asks of a person and a desktop. The screens give a real one, tests one that records and answers.
 /// Nothing else shows a message box or opens and closes a screen.
@@ -23,6 +25,10 @@ public:
 
     /// Shows a message with an OK button under the program's title and waits for it.
     virtual void tell(Icon icon, const std::string& text) = 0;
+
+    /// Asks with Yes and No and waits for the answer; Escape and the close box say No. An empty title stands for the
+    /// program's.
+    virtual Answer ask(const std::string& text, const std::string& title) = 0;
 
     /// Shows a screen; one that is open comes to the front. Returns at once.
     virtual void open(Screen screen) = 0;

@@ -6,14 +6,33 @@
 #include <QMessageBox>
 
 namespace ui {
+namespace {
+
+QWidget* ownerof(const QPointer<QWidget>& mainscreen)
+{
+    return QApplication::activeWindow() ? QApplication::activeWindow() : mainscreen.data();
+}
+
+} // namespace
 
 void QtDesktop::tell(Icon icon, const std::string& text)
 {
     QMessageBox box(icon == Icon::critical ? QMessageBox::Critical : QMessageBox::Information,
                     QApplication::applicationDisplayName(), QString::fromStdString(text), QMessageBox::Ok,
-                    QApplication::activeWindow() ? QApplication::activeWindow() : mainscreen.data());
+                    ownerof(mainscreen));
     box.setTextFormat(Qt::PlainText);
     box.exec();
+}
+
+Answer QtDesktop::ask(const std::string& text, const std::string& title)
+{
+    QMessageBox box(QMessageBox::Question,
+                    title.empty() ? QApplication::applicationDisplayName() : QString::fromStdString(title),
+                    QString::fromStdString(text), QMessageBox::Yes | QMessageBox::No, ownerof(mainscreen));
+    box.setTextFormat(Qt::PlainText);
+    box.setDefaultButton(QMessageBox::No);
+    box.setEscapeButton(QMessageBox::No);
+    return box.exec() == QMessageBox::Yes ? Answer::yes : Answer::no;
 }
 
 void QtDesktop::open(Screen screen)
@@ -21,6 +40,7 @@ void QtDesktop::open(Screen screen)
     QPointer<QWidget>& opened = screens[screen];
     if (!opened)
         opened = makers.at(screen)(mainscreen);
+    opened->setWindowState(opened->windowState() & ~Qt::WindowMinimized);
     opened->show();
     opened->raise();
     opened->activateWindow();

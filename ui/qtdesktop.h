@@ -23,6 +23,7 @@ public:
     void add(Screen screen, Maker maker) { makers[screen] = std::move(maker); }
 
     void tell(Icon icon, const std::string& text) override;
+    Answer ask(const std::string& text, const std::string& title) override;
     void open(Screen screen) override;
     void close(Screen screen) override;
     void leave() override;

@@ -21,7 +21,19 @@ class QuietDesktop : public ui::QtDesktop {
 public:
     std::vector<Told> told;
 
+    std::vector<Asked> asked;
+    std::deque<ui::Answer> answers; ///< to the next questions
+
     void tell(ui::Icon icon, const std::string& text) override { told.push_back({icon, text}); }
+    ui::Answer ask(const std::string& text, const std::string& title) override
+    {
+        asked.push_back({text, title});
+        if (answers.empty())
+            throw std::logic_error("no answer to: " + text);
+        const ui::Answer answer = answers.front();
+        answers.pop_front();
+        return answer;
+    }
 };
 
 inline std::string str(const QString& text)

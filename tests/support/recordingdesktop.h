@@ -4,6 +4,7 @@
 
 #include "ui/desktop.h"
 
+#include <deque>
 #include <string>
 #include <vector>
 
@@ -16,15 +17,25 @@ struct Told {
     bool operator==(const Told&) const = default;
 };
 
+struct Asked {
+    std::string text;
+    std::string title;
+
+    bool operator==(const Asked&) const = default;
+};
+
 /// A desktop without a person: keeps what it was asked, in order.
 class RecordingDesktop : public ui::Desktop {
 public:
     std::vector<Told> told;
+    std::vector<Asked> asked;
+    std::deque<ui::Answer> answers; ///< to the next questions; to one without an answer it is an error
     std::vector<ui::Screen> opened;
     std::vector<ui::Screen> closed;
     int left = 0; ///< how often the program was ended
 
     void tell(ui::Icon icon, const std::string& text) override;
+    ui::Answer ask(const std::string& text, const std::string& title) override;
     void open(ui::Screen screen) override;
     void close(ui::Screen screen) override;
     void leave() override;

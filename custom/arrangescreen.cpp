@@ -1,0 +1,134 @@
+// SPDX-FileCopyrightText: 2026 The tonefret developers
+// SPDX-License-Identifier: MIT
+#include "custom/arrangescreen.h"
+
+#include "ui/button.h"
+#include "ui/readout.h"
+
+namespace custom {
+namespace {
+
+constexpr QSize numbersize{22, 24}; // in pixels at zoom 1
+constexpr QSize namesize{190, 24};
+constexpr int columngap = 14;
+constexpr int textwidth = 3 * (22 + 190 + 5) + 2 * (columngap + 5);
+
+constexpr const char* instruction =
+    "To swap the location of two pieces of custom data, drag one over the other. How to drag it? Click on the first "
+    "data item to be moved with your mouse. Hold down the left mouse button while you drag its image over the item to "
+    "be changed. Note that you cannot move data to unused space - but can only change data items in the occupied data "
+    "area.";
+
+QString member(const char* array, int index)
+{
+    return QStringLiteral("%1_%2").arg(QLatin1String(array)).arg(index);
+}
+
+} // namespace
+
+ArrangeScreen::ArrangeScreen(const CustomTable& shown, const ui::Look& mainlook, QWidget* owner)
+    : Companion(mainlook, owner), table(shown)
+{
+    setObjectName(QStringLiteral("arrange"));
+    setWindowTitle(QStringLiteral("Arrange the Order (position) of custom data"));
+    auto* ground = new QWidget(this);
+    auto* column = new QVBoxLayout(ground);
+    fitroom(column, 16, 12);
+    column->addWidget(caption("Label1", instruction, ui::Type::text, textwidth));
+    column->addLayout(addplaces());
+    column->addLayout(addend());
+    setCentralWidget(ground);
+    display();
+}
+
+/// Columns are read downward, and the gap between two is a column of the grid by itself.
+QGridLayout* ArrangeScreen::addplaces()
+{
+    auto* grid = new QGridLayout;
+    fitroom(grid, 0, 5);
+    for (int place = 0; place < static_cast<int>(placecount); ++place)
+        addplace(grid, place);
+    fit([this, grid] {
+        for (int gap = 2; gap < 3 * columncount - 1; gap += 3)
+            grid->setColumnMinimumWidth(gap, scaled(columngap - 5));
+        for (int row = 0; row < placesincolumn; ++row)
+            grid->setRowMinimumHeight(row, scaled(namesize.height()));
+    });
+    return grid;
+}
+
+void ArrangeScreen::addplace(QGridLayout* grid, int place)
+{
+    const int row = place % placesincolumn;
+    const int column = 3 * (place / placesincolumn);
+    auto* number =
+        new ui::Readout(look, ui::Type::label, ui::Readout::Frame::none, Qt::AlignRight | Qt::AlignVCenter, this);
+    number->setObjectName(member("lblx", place));
+    number->settext(QString::number(place));
+    number->setAccessibleName(QStringLiteral("place %1").arg(place));
+    fitsize(number, numbersize);
+    auto* box = new EntryBox(look, place, this);
+    box->setObjectName(member("txtx", place));
+    box->setToolTip(QStringLiteral("drag over another, or pick up and drop with the Space key"));
+    fitsize(box, namesize);
+    grid->addWidget(number, row, column);
+    grid->addWidget(box, row, column + 1);
+    connect(box, &EntryBox::dropped, this, [this, place](int source) { Q_EMIT txtx_DragDrop(place, source); });
+    connect(box, &EntryBox::chosen, this, [this, place] { choose(place); });
+    connect(box, &EntryBox::left, this, &ArrangeScreen::putback);
+    connect(box, &EntryBox::moved, this, [this, place](int places) { go(place + places); });
+    txtx.at(static_cast<std::size_t>(place)) = box;
+}
+
+QBoxLayout* ArrangeScreen::addend()
+{
+    auto* row = new QHBoxLayout;
+    auto* cmdret = new ui::Button(look, QStringLiteral("Done ! Return !"), this);
+    cmdret->setObjectName(QStringLiteral("cmdret"));
+    cmdret->setAccessibleName(cmdret->text());
+    cmdret->setToolTip(QStringLiteral("close this screen"));
+    connect(cmdret, &QAbstractButton::clicked, this, &QWidget::close);
+    fit([cmdret] { cmdret->updateGeometry(); });
+    row->addStretch(1);
+    row->addWidget(cmdret);
+    return row;
+}
+
+void ArrangeScreen::display()
+{
+    followzoom();
+    if (carried && table.at(static_cast<std::size_t>(*carried)).name.empty())
+        carried.reset();
+    for (std::size_t place = 0; place < placecount; ++place)
+        txtx.at(place)->display(QString::fromStdString(table.at(place).name), carried == static_cast<int>(place));
+}
+
+/// The first time picks a box up, the second drops it.
+void ArrangeScreen::choose(int place)
+{
+    if (!carried) {
+        carried = place;
+        display();
+        return;
+    }
+    const int source = *carried;
+    carried.reset();
+    Q_EMIT txtx_DragDrop(place, source);
+}
+
+void ArrangeScreen::putback()
+{
+    carried.reset();
+    display();
+}
+
+void ArrangeScreen::go(int place)
+{
+    if (place < 0 || place >= static_cast<int>(placecount))
+        return;
+    EntryBox* box = txtx.at(static_cast<std::size_t>(place));
+    if (box->isVisible())
+        box->setFocus(Qt::TabFocusReason);
+}
+
+} // namespace custom

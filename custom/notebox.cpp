@@ -1,0 +1,50 @@
+// SPDX-FileCopyrightText: 2026 The tonefret developers
+// SPDX-License-Identifier: MIT
+#include "custom/notebox.h"
+
+#include "ui/paint.h"
+
+#include <QPainter>
+
+namespace custom {
+namespace {
+
+constexpr double corner = 4;
+
+} // namespace
+
+NoteBox::NoteBox(const ui::Look& shownlook, QWidget* parent) : QAbstractButton(parent), look(shownlook)
+{
+    setFocusPolicy(Qt::TabFocus);
+}
+
+void NoteBox::paintEvent(QPaintEvent* /*event*/)
+{
+    QPainter painter(this);
+    const ui::Theme& theme = look.theme();
+    ui::paintbox(painter, look, rect(), underMouse() ? theme.hover : theme.button,
+                 underMouse() ? theme.accent : theme.hairline, corner);
+    ui::painttext(painter, rect(), text(), look.font(ui::Type::strong), theme.text);
+    if (hasFocus() && ring)
+        ui::paintfocus(painter, look, rect(), corner);
+}
+
+void NoteBox::focusInEvent(QFocusEvent* event)
+{
+    ring = ui::bykeyboard(*event);
+    QAbstractButton::focusInEvent(event);
+}
+
+void NoteBox::enterEvent(QEnterEvent* event)
+{
+    QAbstractButton::enterEvent(event);
+    update();
+}
+
+void NoteBox::leaveEvent(QEvent* event)
+{
+    QAbstractButton::leaveEvent(event);
+    update();
+}
+
+} // namespace custom

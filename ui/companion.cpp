@@ -1,0 +1,135 @@
+// SPDX-FileCopyrightText: 2026 The tonefret developers
+// SPDX-License-Identifier: MIT
+#include "ui/companion.h"
+
+#include "ui/paint.h"
+
+#include <QCloseEvent>
+#include <QGuiApplication>
+#include <QMenuBar>
+#include <QPainter>
+#include <QScreen>
+
+#include <algorithm>
+
+namespace ui {
+namespace {
+
+constexpr double usable = 0.92; ///< of the display's free area, at most; the rest is the window's frame
+
+} // namespace
+
+void Card::paintEvent(QPaintEvent* /*event*/)
+{
+    QPainter painter(this);
+    paintbox(painter, look, rect(), look.theme().card, look.theme().hairline, 7);
+}
+
+Companion::Companion(const Look& mainlook, QWidget* owner) : QMainWindow(owner), look(mainlook), followed(mainlook)
+{
+    layout()->setSizeConstraint(QLayout::SetFixedSize);
+}
+
+void Companion::fit(std::function<void()> change)
+{
+    change();
+    changes.push_back(std::move(change));
+}
+
+void Companion::fitfont(QWidget* control, Type type)
+{
+    fit([this, control, type] { control->setFont(look.font(type)); });
+}
+
+void Companion::fitsize(QWidget* control, QSize atone)
+{
+    fit([this, control, atone] {
+        if (atone.width() >= 0)
+            control->setFixedWidth(scaled(atone.width()));
+        if (atone.height() >= 0)
+            control->setFixedHeight(scaled(atone.height()));
+    });
+}
+
+void Companion::fitroom(QLayout* layout, int marginatone, int gapatone)
+{
+    fit([this, layout, marginatone, gapatone] {
+        const int margin = scaled(marginatone);
+        layout->setContentsMargins(margin, margin, margin, margin);
+        layout->setSpacing(scaled(gapatone));
+    });
+}
+
+QLabel* Companion::caption(const char* name, const char* text, Type type, int widthatone)
+{
+    auto* label = new QLabel(QString::fromUtf8(text), this);
+    label->setObjectName(QString::fromUtf8(name));
+    label->setTextFormat(Qt::PlainText);
+    fitfont(label, type);
+    if (widthatone == 0)
+        return label;
+    label->setWordWrap(true);
+    fit([this, label, widthatone] {
+        const int width = scaled(widthatone);
+        label->setFixedSize(width, label->heightForWidth(width));
+    });
+    return label;
+}
+
+void Companion::applyzoom(double zoom)
+{
+    look.setzoom(zoom);
+    for (const auto& change : changes)
+        change();
+    layout()->activate();
+}
+
+void Companion::dress()
+{
+    dressedfor = followed.zoom();
+    look.followpalette(QGuiApplication::palette());
+    setPalette(look.palettefor(look.theme().surface));
+    applyzoom(dressedfor);
+    const QSize wanted = sizeHint();
+    const QSize room = screen()->availableGeometry().size() * usable;
+    const double share = std::min(static_cast<double>(room.width()) / wanted.width(),
+                                  static_cast<double>(room.height()) / wanted.height());
+    if (share < 1)
+        applyzoom(dressedfor * share);
+}
+
+void Companion::followzoom()
+{
+    if (isVisible() && dressedfor != followed.zoom())
+        dress();
+}
+
+void Companion::centre()
+{
+    const QRect room = screen()->availableGeometry();
+    const double left = room.left() + (room.width() - width()) / 2.0;
+    const double top = room.top() + (room.height() - height()) / 2.0;
+    move(qRound(left), qRound(top));
+}
+
+void Companion::showEvent(QShowEvent* event)
+{
+    QMainWindow::showEvent(event);
+    dress();
+    centre();
+}
+
+void Companion::changeEvent(QEvent* event)
+{
+    QMainWindow::changeEvent(event);
+    if (event->type() == QEvent::ApplicationPaletteChange && isVisible())
+        dress();
+}
+
+void Companion::closeEvent(QCloseEvent* event)
+{
+    Q_EMIT closed();
+    event->accept();
+}
+
+} // namespace ui
