@@ -49,8 +49,10 @@ QGridLayout* ArrangeScreen::addplaces()
     for (int place = 0; place < static_cast<int>(placecount); ++place)
         addplace(grid, place);
     fit([this, grid] {
-        for (int gap = 2; gap < 3 * columncount - 1; gap += 3)
-            grid->setColumnMinimumWidth(gap, scaled(columngap - 5));
+        for (int column = 0; column < columncount; ++column) {
+            grid->setColumnMinimumWidth(3 * column + 1, scaled(namesize.width()));
+            grid->setColumnMinimumWidth(3 * column + 2, column + 1 < columncount ? scaled(columngap - 5) : 0);
+        }
         for (int row = 0; row < placesincolumn; ++row)
             grid->setRowMinimumHeight(row, scaled(namesize.height()));
     });

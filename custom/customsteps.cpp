@@ -9,7 +9,7 @@
 namespace custom {
 namespace {
 
-constexpr int stepwidth = 392; // of the texts, in pixels at zoom 1
+constexpr int stepwidth = 400; // of the texts, in pixels at zoom 1
 constexpr int sidewidth = 178;
 constexpr int buttonsinrow = 4;
 constexpr QSize notesize{58, 24};
@@ -34,7 +34,7 @@ QBoxLayout* CustomScreen::step(QBoxLayout* column, int number, const char* text)
     fitroom(content, 0, 6);
     auto* instruction = caption("", text, ui::Type::text, stepwidth);
     instruction->setObjectName(QStringLiteral("instruction_%1").arg(number));
-    content->addWidget(instruction);
+    content->addWidget(instruction, 0, Qt::AlignLeft);
     row->addLayout(content, 1);
     column->addWidget(card);
     return content;
@@ -88,7 +88,7 @@ void CustomScreen::addname(QBoxLayout* card)
     connect(txtname, &NameBox::clicked, this, [this] { stage.act([this] { form.txtname_Click(); }); });
     connect(txtname, &QLineEdit::textEdited, this,
             [this](const QString& typed) { stage.act([&] { form.txtname_Change(typed.toStdString()); }); });
-    card->addWidget(txtname);
+    card->addWidget(txtname, 0, Qt::AlignLeft);
 }
 
 void CustomScreen::addhand(QBoxLayout* card)
@@ -97,9 +97,9 @@ void CustomScreen::addhand(QBoxLayout* card)
     chkleft->setObjectName(QStringLiteral("chkleft"));
     chkleft->setAccessibleName(QStringLiteral("Left handed view"));
     chkleft->setToolTip(QStringLiteral("show this tuning for the left hand"));
-    fitfont(chkleft, ui::Type::text);
+    fitindicator(chkleft);
     connect(chkleft, &QAbstractButton::clicked, this, [this] { stage.act([this] { form.chkleft_Click(); }); });
-    card->addWidget(chkleft);
+    card->addWidget(chkleft, 0, Qt::AlignLeft);
 }
 
 void CustomScreen::addstrings(QBoxLayout* card)
@@ -111,7 +111,7 @@ void CustomScreen::addstrings(QBoxLayout* card)
         choice->setObjectName(QStringLiteral("Option2_%1").arg(i));
         choice->setAccessibleName(choice->text());
         choice->setToolTip(QStringLiteral("number of strings"));
-        fitfont(choice, ui::Type::text);
+        fitindicator(choice);
         connect(choice, &QAbstractButton::clicked, this,
                 [this, i] { stage.act([&] { form.Option2_Click(static_cast<instruments::StringLayout>(i)); }); });
         row->addWidget(choice);
@@ -126,7 +126,8 @@ void CustomScreen::addnotes(QBoxLayout* card)
     auto* row = new QHBoxLayout;
     fitroom(row, 0, 22);
     row->addLayout(addnoteboxes());
-    row->addLayout(addnotebuttons(), 1);
+    row->addLayout(addnotebuttons());
+    row->addStretch(1);
     card->addLayout(row);
 }
 
@@ -159,6 +160,7 @@ QBoxLayout* CustomScreen::addnotebuttons()
     for (int i = 0; i < static_cast<int>(notecaptions.size()); ++i) {
         auto* note = button("", notecaptions.at(static_cast<std::size_t>(i)), "select this note",
                             [this, i] { stage.act([&] { form.cmdret_Click(i + 1); }); });
+        note->setbackColor(QColor(core::midgrey));
         note->setObjectName(QStringLiteral("cmdret_%1").arg(i + 1));
         grid->addWidget(note, i / buttonsinrow, i % buttonsinrow);
     }

@@ -4,10 +4,11 @@
 
 #include "ui/paint.h"
 
+#include <QApplication>
 #include <QCloseEvent>
-#include <QGuiApplication>
 #include <QMenuBar>
 #include <QPainter>
+#include <QProxyStyle>
 #include <QScreen>
 
 #include <algorithm>
@@ -16,6 +17,33 @@ namespace ui {
 namespace {
 
 constexpr double usable = 0.92; ///< of the display's free area, at most; the rest is the window's frame
+constexpr double smallestzoom = 0.75;
+constexpr double indicator = 14; ///< side of a check mark's box, in pixels at zoom 1
+
+/// The desktop's style, with check boxes and option buttons that grow with the text beside them.
+class IndicatorStyle : public QProxyStyle {
+public:
+    IndicatorStyle(const Look& shownlook, QObject* owner) : QProxyStyle(QApplication::style()->name()), look(shownlook)
+    {
+        setParent(owner);
+    }
+
+    int pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const override
+    {
+        switch (metric) {
+        case PM_IndicatorWidth:
+        case PM_IndicatorHeight:
+        case PM_ExclusiveIndicatorWidth:
+        case PM_ExclusiveIndicatorHeight:
+            return qRound(indicator * look.zoom());
+        default:
+            return QProxyStyle::pixelMetric(metric, option, widget);
+        }
+    }
+
+private:
+    const Look& look;
+};
 
 } // namespace
 
@@ -25,10 +53,7 @@ void Card::paintEvent(QPaintEvent* /*event*/)
     paintbox(painter, look, rect(), look.theme().card, look.theme().hairline, 7);
 }
 
-Companion::Companion(const Look& mainlook, QWidget* owner) : QMainWindow(owner), look(mainlook), followed(mainlook)
-{
-    layout()->setSizeConstraint(QLayout::SetFixedSize);
-}
+Companion::Companion(const Look& mainlook, QWidget* owner) : QMainWindow(owner), look(mainlook), followed(mainlook) {}
 
 void Companion::fit(std::function<void()> change)
 {
@@ -39,6 +64,12 @@ void Companion::fit(std::function<void()> change)
 void Companion::fitfont(QWidget* control, Type type)
 {
     fit([this, control, type] { control->setFont(look.font(type)); });
+}
+
+void Companion::fitindicator(QAbstractButton* control)
+{
+    fitfont(control, Type::text);
+    control->setStyle(new IndicatorStyle(look, control));
 }
 
 void Companion::fitsize(QWidget* control, QSize atone)
@@ -71,6 +102,7 @@ QLabel* Companion::caption(const char* name, const char* text, Type type, int wi
     label->setWordWrap(true);
     fit([this, label, widthatone] {
         const int width = scaled(widthatone);
+        label->setMinimumSize(0, 0); // a height for a width is never below it
         label->setFixedSize(width, label->heightForWidth(width));
     });
     return label;
@@ -81,7 +113,15 @@ void Companion::applyzoom(double zoom)
     look.setzoom(zoom);
     for (const auto& change : changes)
         change();
-    layout()->activate();
+    for (QWidget* each : findChildren<QWidget*>())
+        each->updateGeometry(); // what they want is kept from the zoom before
+    setFixedSize(centralWidget()->sizeHint() + QSize(0, menuheight()));
+}
+
+int Companion::menuheight() const
+{
+    const auto* bar = findChild<QMenuBar*>();
+    return bar ? bar->sizeHint().height() : 0;
 }
 
 void Companion::dress()
@@ -90,12 +130,11 @@ void Companion::dress()
     look.followpalette(QGuiApplication::palette());
     setPalette(look.palettefor(look.theme().surface));
     applyzoom(dressedfor);
-    const QSize wanted = sizeHint();
     const QSize room = screen()->availableGeometry().size() * usable;
-    const double share = std::min(static_cast<double>(room.width()) / wanted.width(),
-                                  static_cast<double>(room.height()) / wanted.height());
+    const double share =
+        std::min(static_cast<double>(room.width()) / width(), static_cast<double>(room.height()) / height());
     if (share < 1)
-        applyzoom(dressedfor * share);
+        applyzoom(std::max(smallestzoom, dressedfor * share));
 }
 
 void Companion::followzoom()

@@ -4,6 +4,7 @@
 
 #include "ui/look.h"
 
+#include <QAbstractButton>
 #include <QLabel>
 #include <QLayout>
 #include <QMainWindow>
@@ -40,6 +41,7 @@ protected:
     /// Does something at once and again whenever the zoom or the theme changes: what depends on `look`.
     void fit(std::function<void()> change);
     void fitfont(QWidget* control, Type type);
+    void fitindicator(QAbstractButton* control);                  ///< a check box or an option button, its text too
     void fitsize(QWidget* control, QSize atone);                  ///< pixels at zoom 1; -1 leaves a side free
     void fitroom(QLayout* layout, int marginatone, int gapatone); ///< pixels at zoom 1
     /// A text that breaks its lines within a width in pixels at zoom 1; a width of 0: on one line.
@@ -58,6 +60,7 @@ protected:
 private:
     void dress();
     void applyzoom(double zoom);
+    int menuheight() const;
     void centre();
 
     const Look& followed;
