@@ -83,9 +83,9 @@ public:
 
     custom::CustomTable customtable;
     bool customchanged = false; ///< something is to be saved at the end; never cleared during a run
-    custom::EditForm editform; ///< of the screen `custom`
-    bool customshown = false;  ///< the screen `custom` is open
-    bool arrangeshown = false; ///< the screen `arrange` is open
+    custom::EditForm editform;  ///< of the screen `custom`
+    bool customshown = false;   ///< the screen `custom` is open
+    bool arrangeshown = false;  ///< the screen `arrange` is open
     print::PageSettings pagesettings;
     Tips tips;
 
