@@ -2,32 +2,17 @@
 // SPDX-License-Identifier: MIT
 #include "app/program.h"
 
-#include "instruments/retunescreen.h"
+#include "ui/text.h"
 
 namespace app {
-namespace {
-
-QString openname(const mainscreen::Session& session, int row)
-{
-    return mainscreen::totext(session.fretboard.cell.at(static_cast<std::size_t>(row)).text);
-}
-
-} // namespace
 
 Program::Program(ui::QtDesktop& opened)
     : desktop(opened), session(opened), stage(opened), mainscreen(session, stage, look)
 {
-    stage.onchange([this] { mainscreen.display(); });
+    stage.onchange([this] { display(); });
+    desktop.beforeasking([this] { stage.showall(); });
     desktop.setmain(&mainscreen);
-    desktop.add(ui::Screen::frmretune, [this](QWidget* owner) {
-        auto* screen = new instruments::RetuneScreen(look, owner);
-        stage.onchange([this, screen] { screen->display(openname(session, session.retune.row)); });
-        QObject::connect(screen, &instruments::RetuneScreen::cmdret_Click, screen,
-                         [this](int index) { stage.act([&] { session.cmdret_Click(index); }); });
-        QObject::connect(screen, &QDialog::finished, screen,
-                         [this] { stage.act([&] { session.frmretune_Unload(); }); });
-        return screen;
-    });
+    desktop.add(ui::Screen::frmretune, [this](QWidget* owner) { return makeretune(owner); });
 }
 
 void Program::start()
@@ -35,6 +20,23 @@ void Program::start()
     mainscreen.centre();
     stage.act([this] { session.Form_Load(); });
     mainscreen.show();
+}
+
+void Program::display()
+{
+    mainscreen.display();
+    if (retunescreen)
+        retunescreen->display(ui::totext(session.fretboard.cell.at(static_cast<std::size_t>(session.retune.row)).text));
+}
+
+QWidget* Program::makeretune(QWidget* owner)
+{
+    retunescreen = new instruments::RetuneScreen(look, owner);
+    QObject::connect(retunescreen, &instruments::RetuneScreen::cmdret_Click, retunescreen,
+                     [this](int index) { stage.act([&] { session.cmdret_Click(index); }); });
+    QObject::connect(retunescreen, &QDialog::finished, retunescreen,
+                     [this] { stage.act([&] { session.frmretune_Unload(); }); });
+    return retunescreen;
 }
 
 } // namespace app

@@ -2,11 +2,14 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "instruments/retunescreen.h"
 #include "mainscreen/mainscreen.h"
 #include "mainscreen/session.h"
 #include "ui/look.h"
 #include "ui/qtdesktop.h"
 #include "ui/stage.h"
+
+#include <QPointer>
 
 namespace app {
 
@@ -24,6 +27,12 @@ public:
     ui::Stage stage;
     ui::Look look;
     mainscreen::MainScreen mainscreen;
+
+private:
+    void display();
+    QWidget* makeretune(QWidget* owner);
+
+    QPointer<instruments::RetuneScreen> retunescreen;
 };
 
 } // namespace app

@@ -17,7 +17,7 @@
 namespace mainscreen {
 namespace {
 
-constexpr std::array<double, 4> openingzooms{2, 1.5, 1.25, 1};
+constexpr std::array<double, 5> openingzooms{2, 1.5, 1.25, 1, ui::Canvas::smallestzoom};
 constexpr double menupixels = 12;   ///< size of the menus' type at zoom 1
 constexpr double comfortable = 0.9; ///< of the display's free area, at most
 
@@ -36,7 +36,7 @@ MainScreen::MainScreen(Session& shown, ui::Stage& entered, ui::Look& shared)
     dressmenubar();
     panels.push_back(std::make_unique<PianoPanel>(*canvas, session, stage));
     auto output = std::make_unique<OutputPanel>(*canvas, session, stage);
-    auto takefocus = [panel = output.get()] { panel->focusreset(); };
+    auto takefocus = [panel = output.get()](bool bykeys) { panel->focusreset(bykeys); };
     panels.push_back(std::move(output));
     panels.push_back(std::make_unique<TransposePanel>(*canvas, session, stage));
     panels.push_back(std::make_unique<ChordPanel>(*canvas, session, stage));
@@ -95,8 +95,11 @@ void MainScreen::resizeEvent(QResizeEvent* event)
 void MainScreen::changeEvent(QEvent* event)
 {
     QMainWindow::changeEvent(event);
-    if (event->type() == QEvent::PaletteChange)
-        dressmenubar();
+    if (event->type() != QEvent::PaletteChange)
+        return;
+    look.followpalette(palette());
+    dressmenubar();
+    canvas->repaintbackdrop();
 }
 
 void MainScreen::closeEvent(QCloseEvent* event)

@@ -14,8 +14,8 @@ namespace {
 using places::px;
 
 constexpr ui::Twips barwidth = 7 * px;
-constexpr ui::Twips followerwidth = 2 * px;
-constexpr ui::Twips overhang = 5 * px; ///< of the capo beyond the edges of the neck
+constexpr ui::Twips followerwidth = 3 * px;
+constexpr ui::Twips overhang = 5 * px; ///< of the capo beyond the neck's upper edge
 
 /// The capo's bar, padded and dark, or the thin bright line behind it.
 class CapoShape : public QWidget {
@@ -53,7 +53,7 @@ NeckPanel::NeckPanel(ui::Canvas& drawn, Session& shown, ui::Stage& entered)
     : Panel(drawn, shown, entered),
       capobar(new CapoShape(CapoShape::Part::bar, &canvas)),
       capofollower(new CapoShape(CapoShape::Part::follower, &canvas)),
-      fretcaption(new ui::Readout(canvas.look(), ui::Type::label, ui::Readout::Frame::none, Qt::AlignLeft, &canvas))
+      fretcaption(new ui::Readout(canvas.look(), ui::Type::heading, ui::Readout::Frame::none, Qt::AlignLeft, &canvas))
 {
     canvas.addbackdrop(
         [this](QPainter& painter, const ui::Look& look) { paintneck(painter, look, session.fretboard); });
@@ -100,18 +100,24 @@ void NeckPanel::displaycell(int index)
 {
     const instruments::Cell& state = session.fretboard.cell.at(static_cast<std::size_t>(index));
     ui::NoteCell* cell = Text1.at(static_cast<std::size_t>(index));
-    const QString note = totext(state.text);
-    if (cell->text() != note) {
-        const QString open =
-            totext(session.fretboard.cell.at(static_cast<std::size_t>(index % instruments::rowcount)).text);
-        const int fret = index / instruments::rowcount;
-        cell->setAccessibleName(fret == 0
-                                    ? QString::fromLatin1("%1 string, open").arg(open)
-                                    : QString::fromLatin1("%1 string, fret %2, %3").arg(open).arg(fret).arg(note));
-    }
-    cell->display(note, state.back);
+    const QString name = spokenname(index);
+    if (cell->accessibleName() != name)
+        cell->setAccessibleName(name);
+    cell->display(totext(state.text), state.back);
     if (cell->isHidden() == state.visible)
         cell->setVisible(state.visible);
+}
+
+/// "E string, fret 3, G": how the cell is read aloud.
+QString NeckPanel::spokenname(int index) const
+{
+    const auto note = [this](int cell) {
+        return totext(session.fretboard.cell.at(static_cast<std::size_t>(cell)).text);
+    };
+    const int fret = index / instruments::rowcount;
+    const QString open = note(index % instruments::rowcount);
+    return fret == 0 ? QString::fromLatin1("%1 string, open").arg(open)
+                     : QString::fromLatin1("%1 string, fret %2, %3").arg(open).arg(fret).arg(note(index));
 }
 
 void NeckPanel::displaycapo()
@@ -119,7 +125,7 @@ void NeckPanel::displaycapo()
     const instruments::CapoMarker& marker = session.capomarker;
     const ui::TwipRect neck = neckplace(session.fretboard);
     const ui::Twips top = neck.top - overhang;
-    const ui::Twips height = neck.height + 2 * overhang;
+    const ui::Twips height = neck.height + overhang;
     canvas.place(capobar, {marker.barleft, top, barwidth, height});
     canvas.place(capofollower, {marker.followerleft, top, followerwidth, height});
     capobar->setVisible(marker.barvisible);

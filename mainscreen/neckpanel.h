@@ -17,6 +17,7 @@ public:
 
 private:
     void displaycell(int index);
+    QString spokenname(int index) const;
     void displaycapo();
     void placecells();
 

@@ -22,9 +22,9 @@ void paintcase(QPainter& painter, const ui::Look& look)
 /// "C sharp key, lower octave": how the key is read aloud.
 QString spokenname(int k)
 {
-    QString note = totext(core::sharpnames.at(static_cast<std::size_t>(k % 12)));
+    QString note = totext(core::sharpnames.at(static_cast<std::size_t>(k % core::octave)));
     note.replace(QLatin1Char('#'), QLatin1String(" sharp"));
-    const char* octave = k < 12 ? "lower octave" : k < 24 ? "upper octave" : "top";
+    const char* octave = k < core::octave ? "lower octave" : k < 2 * core::octave ? "upper octave" : "top";
     return QString::fromLatin1("%1 key, %2").arg(note, QLatin1String(octave));
 }
 

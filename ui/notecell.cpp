@@ -32,7 +32,9 @@ void NoteCell::paintEvent(QPaintEvent* /*event*/)
     const QRectF pill = QRectF(rect()).adjusted(0, gap, 0, -gap);
     const QColor edge = marked ? markink() : underMouse() ? look.theme().accent : QColor(0xCF, 0xCA, 0xBE);
     paintbox(painter, look, pill, tocolour(back), edge, pill.height() / 2 / look.zoom());
-    painttext(painter, pill.adjusted(gap, 0, -gap, 0), text(), look.font(marked ? Type::mark : Type::note), markink());
+    const QRectF room = pill.adjusted(gap, 0, -gap, 0);
+    painttext(painter, room, text(), fitted(look.font(marked ? Type::mark : Type::note), widestname(), room.width()),
+              markink());
 }
 
 void NoteCell::enterEvent(QEnterEvent* event)

@@ -52,8 +52,7 @@ void PianoKey::paintbody(QPainter& painter) const
 {
     const double line = look.zoom();
     const bool white = kind == Kind::white;
-    const QRectF box = white ? QRectF(rect()).adjusted(line / 2, -line, -line / 2, -line / 2)
-                             : QRectF(rect()).adjusted(line / 2, -line, -line / 2, -line / 2);
+    const QRectF box = QRectF(rect()).adjusted(line / 2, -line, -line / 2, -line / 2);
     const QPainterPath shape = keyshape(box, (white ? 4 : 3) * look.zoom());
     painter.fillPath(shape, tocolour(back));
 
@@ -80,7 +79,7 @@ void PianoKey::paintbody(QPainter& painter) const
 void PianoKey::paintcaption(QPainter& painter) const
 {
     const Type type = kind == Kind::black || ismark(back) ? Type::mark : Type::text;
-    const QFont font = fitted(look.font(type), QStringLiteral("G#"), width() - look.zoom()); // one size on all keys
+    const QFont font = fitted(look.font(type), widestname(), width() - look.zoom());
     const double lineheight = 13 * look.zoom();
     const QStringList names = text().split(QLatin1Char(' '));
     double top =

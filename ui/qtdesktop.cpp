@@ -9,6 +9,7 @@ namespace ui {
 
 void QtDesktop::tell(Icon icon, const std::string& text)
 {
+    showall();
     QMessageBox box(icon == Icon::critical ? QMessageBox::Critical : QMessageBox::Information,
                     QApplication::applicationDisplayName(), QString::fromStdString(text), QMessageBox::Ok,
                     QApplication::activeWindow() ? QApplication::activeWindow() : mainscreen.data());
@@ -19,8 +20,12 @@ void QtDesktop::tell(Icon icon, const std::string& text)
 void QtDesktop::open(Screen screen)
 {
     QPointer<QWidget>& opened = screens[screen];
-    if (!opened)
+    if (!opened || !opened->isVisible()) {
+        if (opened)
+            opened->deleteLater();
         opened = makers.at(screen)(mainscreen);
+    }
+    showall();
     opened->show();
     opened->raise();
     opened->activateWindow();
