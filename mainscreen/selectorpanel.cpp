@@ -7,7 +7,8 @@
 namespace mainscreen {
 
 // clang-format off
-SelectorPanel::SelectorPanel(ui::Canvas& drawn, Session& shown, ui::Stage& entered, std::function<void(bool bykeys)> chosen)
+SelectorPanel::SelectorPanel(ui::Canvas& drawn, Session& shown, ui::Stage& entered,
+                             const std::function<void(bool bykeys)>& chosen)
     : Panel(drawn, shown, entered), lists{{
 //    name         caption's own name    caption                 place            state                 handler                     tip               gives the focus back
     { "cbotype",   "family",             "Family",               places::familylist,  &Session::cbotype,    &Session::cbotype_Click,    &Tips::cbotype,   true  },

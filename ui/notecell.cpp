@@ -9,21 +9,6 @@
 
 namespace ui {
 
-NoteCell::NoteCell(const Look& shownlook, QWidget* parent) : QAbstractButton(parent), look(shownlook)
-{
-    setFocusPolicy(Qt::NoFocus);
-}
-
-void NoteCell::display(const QString& note, core::Colour colour)
-{
-    if (text() != note)
-        setText(note);
-    if (back == colour)
-        return;
-    back = colour;
-    update();
-}
-
 void NoteCell::paintEvent(QPaintEvent* /*event*/)
 {
     QPainter painter(this);
@@ -35,18 +20,8 @@ void NoteCell::paintEvent(QPaintEvent* /*event*/)
     const QRectF room = pill.adjusted(gap, 0, -gap, 0);
     painttext(painter, room, text(), fitted(look.font(marked ? Type::mark : Type::note), widestname(), room.width()),
               markink());
-}
-
-void NoteCell::enterEvent(QEnterEvent* event)
-{
-    QAbstractButton::enterEvent(event);
-    update();
-}
-
-void NoteCell::leaveEvent(QEvent* event)
-{
-    QAbstractButton::leaveEvent(event);
-    update();
+    if (showsfocus())
+        paintfocus(painter, look, pill, pill.height() / 2 / look.zoom());
 }
 
 } // namespace ui

@@ -25,19 +25,8 @@ QPainterPath keyshape(const QRectF& box, double corner)
 } // namespace
 
 PianoKey::PianoKey(const Look& shownlook, Kind made, QWidget* parent)
-    : QAbstractButton(parent), look(shownlook), kind(made), back(made == Kind::white ? core::white : core::lightgrey)
+    : NoteButton(shownlook, made == Kind::white ? core::white : core::lightgrey, parent), kind(made)
 {
-    setFocusPolicy(Qt::NoFocus);
-}
-
-void PianoKey::display(const QString& caption, core::Colour colour)
-{
-    if (text() != caption)
-        setText(caption);
-    if (back == colour)
-        return;
-    back = colour;
-    update();
 }
 
 void PianoKey::paintEvent(QPaintEvent* /*event*/)
@@ -46,6 +35,8 @@ void PianoKey::paintEvent(QPaintEvent* /*event*/)
     painter.setRenderHint(QPainter::Antialiasing);
     paintbody(painter);
     paintcaption(painter);
+    if (showsfocus())
+        paintfocus(painter, look, rect(), kind == Kind::white ? 4 : 3);
 }
 
 void PianoKey::paintbody(QPainter& painter) const

@@ -41,6 +41,7 @@ void paintchevron(QPainter& painter, const Look& look, const QPointF& middle, co
 SelectorBox::SelectorBox(const Look& shownlook, QWidget* parent) : QComboBox(parent), look(shownlook)
 {
     setFocusPolicy(Qt::TabFocus);
+    setAttribute(Qt::WA_Hover);
     setMaxVisibleItems(20);
     connect(this, &QComboBox::currentIndexChanged, this, &SelectorBox::tellofchange);
     connect(this, &QComboBox::activated, this, &SelectorBox::tellofactivation);
@@ -132,18 +133,6 @@ void SelectorBox::focusInEvent(QFocusEvent* event)
 {
     ring = bykeyboard(*event);
     QComboBox::focusInEvent(event);
-}
-
-void SelectorBox::enterEvent(QEnterEvent* event)
-{
-    QComboBox::enterEvent(event);
-    update();
-}
-
-void SelectorBox::leaveEvent(QEvent* event)
-{
-    QComboBox::leaveEvent(event);
-    update();
 }
 
 } // namespace ui
