@@ -2,67 +2,19 @@
 // SPDX-License-Identifier: MIT
 #include "app/program.h"
 
-#include "custom/arrangescreen.h"
-#include "custom/customscreen.h"
-#include "instruments/retunescreen.h"
+#include "ui/text.h"
 
 namespace app {
-namespace {
-
-QString openname(const mainscreen::Session& session, int row)
-{
-    return mainscreen::totext(session.fretboard.cell.at(static_cast<std::size_t>(row)).text);
-}
-
-} // namespace
 
 Program::Program(ui::QtDesktop& opened)
     : desktop(opened), session(opened), stage(opened), mainscreen(session, stage, look)
 {
-    stage.onchange([this] { mainscreen.display(); });
+    stage.onchange([this] { display(); });
+    desktop.beforeasking([this] { stage.showall(); });
     desktop.setmain(&mainscreen);
-    desktop.add(ui::Screen::frmretune, [this](QWidget* owner) {
-        auto* screen = new instruments::RetuneScreen(look, owner);
-        stage.onchange([this, screen] { screen->display(openname(session, session.retune.row)); });
-        QObject::connect(screen, &instruments::RetuneScreen::cmdret_Click, screen,
-                         [this](int index) { stage.act([&] { session.cmdret_Click(index); }); });
-        QObject::connect(screen, &QDialog::finished, screen,
-                         [this] { stage.act([&] { session.frmretune_Unload(); }); });
-        return screen;
-    });
+    desktop.add(ui::Screen::frmretune, [this](QWidget* owner) { return makeretune(owner); });
     desktop.add(ui::Screen::custom, [this](QWidget* owner) { return makecustom(owner); });
     desktop.add(ui::Screen::arrange, [this](QWidget* owner) { return makearrange(owner); });
-}
-
-QWidget* Program::makecustom(QWidget* owner)
-{
-    using custom::CustomScreen;
-    auto* screen = new CustomScreen(session.editform, stage, look, owner);
-    stage.onchange([shown = QPointer(screen)] {
-        if (shown)
-            shown->display();
-    });
-    const auto join = [this, screen](void (CustomScreen::*told)(), void (mainscreen::Session::*procedure)()) {
-        QObject::connect(screen, told, screen, [this, procedure] { stage.act([&] { (session.*procedure)(); }); });
-    };
-    join(&CustomScreen::closed, &mainscreen::Session::customexit);
-    join(&CustomScreen::cmdsettings_Click, &mainscreen::Session::cmdsettings_Click);
-    join(&CustomScreen::cmdarrange_Click, &mainscreen::Session::mnuarrange_Click);
-    return screen;
-}
-
-QWidget* Program::makearrange(QWidget* owner)
-{
-    using custom::ArrangeScreen;
-    auto* screen = new ArrangeScreen(session.customtable, look, owner);
-    stage.onchange([shown = QPointer(screen)] {
-        if (shown)
-            shown->display();
-    });
-    QObject::connect(screen, &ArrangeScreen::txtx_DragDrop, screen,
-                     [this](int target, int source) { stage.act([&] { session.txtx_DragDrop(target, source); }); });
-    QObject::connect(screen, &ArrangeScreen::closed, screen, [this] { stage.act([this] { session.endform(); }); });
-    return screen;
 }
 
 void Program::start()
@@ -70,6 +22,53 @@ void Program::start()
     mainscreen.centre();
     stage.act([this] { session.Form_Load(); });
     mainscreen.show();
+}
+
+void Program::display()
+{
+    mainscreen.display();
+    if (retunescreen)
+        retunescreen->display(ui::totext(session.fretboard.cell.at(static_cast<std::size_t>(session.retune.row)).text));
+    if (customscreen)
+        customscreen->display();
+    if (arrangescreen)
+        arrangescreen->display();
+}
+
+QWidget* Program::makeretune(QWidget* owner)
+{
+    retunescreen = new instruments::RetuneScreen(look, owner);
+    QObject::connect(retunescreen, &instruments::RetuneScreen::cmdret_Click, retunescreen,
+                     [this](int index) { stage.act([&] { session.cmdret_Click(index); }); });
+    QObject::connect(retunescreen, &QDialog::finished, retunescreen,
+                     [this] { stage.act([&] { session.frmretune_Unload(); }); });
+    return retunescreen;
+}
+
+QWidget* Program::makecustom(QWidget* owner)
+{
+    using custom::CustomScreen;
+    using mainscreen::Session;
+    customscreen = new CustomScreen(session.editform, stage, look, owner);
+    const auto join = [this](void (CustomScreen::*told)(), void (Session::*procedure)()) {
+        QObject::connect(customscreen, told, customscreen,
+                         [this, procedure] { stage.act([&] { (session.*procedure)(); }); });
+    };
+    join(&CustomScreen::closed, &Session::customexit);
+    join(&CustomScreen::cmdsettings_Click, &Session::cmdsettings_Click);
+    join(&CustomScreen::cmdarrange_Click, &Session::mnuarrange_Click);
+    return customscreen;
+}
+
+QWidget* Program::makearrange(QWidget* owner)
+{
+    using custom::ArrangeScreen;
+    arrangescreen = new ArrangeScreen(session.customtable, look, owner);
+    QObject::connect(arrangescreen, &ArrangeScreen::txtx_DragDrop, arrangescreen,
+                     [this](int target, int source) { stage.act([&] { session.txtx_DragDrop(target, source); }); });
+    QObject::connect(arrangescreen, &ArrangeScreen::closed, arrangescreen,
+                     [this] { stage.act([this] { session.endform(); }); });
+    return arrangescreen;
 }
 
 } // namespace app

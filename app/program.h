@@ -2,11 +2,16 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "custom/arrangescreen.h"
+#include "custom/customscreen.h"
+#include "instruments/retunescreen.h"
 #include "mainscreen/mainscreen.h"
 #include "mainscreen/session.h"
 #include "ui/look.h"
 #include "ui/qtdesktop.h"
 #include "ui/stage.h"
+
+#include <QPointer>
 
 namespace app {
 
@@ -26,8 +31,14 @@ public:
     mainscreen::MainScreen mainscreen;
 
 private:
+    void display();
+    QWidget* makeretune(QWidget* owner);
     QWidget* makecustom(QWidget* owner);
     QWidget* makearrange(QWidget* owner);
+
+    QPointer<instruments::RetuneScreen> retunescreen;
+    QPointer<custom::CustomScreen> customscreen;
+    QPointer<custom::ArrangeScreen> arrangescreen;
 };
 
 } // namespace app

@@ -39,7 +39,7 @@ void readings(benchmark::State& state)
     const std::vector<Entry> sets = allsets();
     const core::NoteSpelling spelling{.mode = static_cast<core::SpellingMode>(state.range(0))};
     int chordindex = 0;
-    for (auto _ : state)
+    while (state.KeepRunning())
         for (const Entry& entry : sets) {
             core::ChordSlots slots = entry.slots;
             core::PitchClass last = entry.last;

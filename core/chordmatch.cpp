@@ -2,15 +2,12 @@
 // SPDX-License-Identifier: MIT
 #include "core/chordmatch.h"
 
-#include "core/chordtypes.h"
-
 #include <algorithm>
 #include <bit>
 
 namespace core {
 namespace {
 
-constexpr int octave = 12;
 constexpr std::int8_t notype = -1;
 
 /// What a set of notes reads as.
@@ -62,7 +59,7 @@ constexpr Reading read(NoteSet set)
     return {};
 }
 
-/// The reading of every set of notes; computed once, when the program starts.
+/// The reading of every set of notes; computed once, on first use.
 const std::array<Reading, 1U << octave>& readings()
 {
     static const auto table = [] {
@@ -85,15 +82,15 @@ void addnote(PitchClass n, std::array<PitchClass, 6>& notes)
 
 } // namespace
 
-std::string alternatetext(const Alternate& alternate, PitchClass second, PitchClass third, const NoteSpelling& spelling)
+std::string alternatetext(const Alternate& alternate, PitchClass slot2, PitchClass slot3, const NoteSpelling& spelling)
 {
     switch (alternate.text) {
     case AlternateText::type:
         return std::string(chordtypes.at(static_cast<std::size_t>(alternate.type)).name);
     case AlternateText::dimlist:
-        return ", " + spelling.notename(second) + ", & " + spelling.notename(third) + " dim.";
+        return ", " + spelling.notename(slot2) + ", & " + spelling.notename(slot3) + " dim.";
     case AlternateText::auglist:
-        return "+ and " + spelling.notename(second) + "+";
+        return "+ and " + spelling.notename(slot2) + "+";
     case AlternateText::none:
         break;
     }
@@ -103,7 +100,7 @@ std::string alternatetext(const Alternate& alternate, PitchClass second, PitchCl
 void chordmatch(PitchClass& n, ChordSlots& slots, int& chordindex, const NoteSpelling& spelling)
 {
     auto& notes = slots.notes;
-    if (n == octave)
+    if (n == highestentered)
         n = 0;
     if (n != rereadnotes && std::ranges::find(notes, n) == notes.end())
         addnote(n, notes);

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "core/chordtypes.h"
 #include "core/notes.h"
 
 #include <array>
@@ -21,8 +22,12 @@ struct ChordSlots {
     PitchClass& slot(int i) { return i == 6 ? root : i == 7 ? alternateroot : notes.at(static_cast<std::size_t>(i)); }
 };
 
+inline constexpr PitchClass highestentered = 12;         ///< the upper C, read as 0
 inline constexpr PitchClass rereadnotes = 13;            ///< for `chordmatch`: add nothing, read the notes again
 inline constexpr std::string_view cantfind{"cant find"}; ///< slot 8 when no chord type has these notes
+
+/// Text of an alternate reading; `slot2` and `slot3` are the notes of those slots. Empty when there is none.
+std::string alternatetext(const Alternate& alternate, PitchClass slot2, PitchClass slot3, const NoteSpelling& spelling);
 
 /// Adds note `n` (0..12, or `rereadnotes`) to the chord's notes, sorts them and reads the chord.
 /// 12 is taken as 0 and written back. A note that is there already is not added twice; a new one pushes slot 5 out.

@@ -107,7 +107,7 @@ constexpr NoteSet notesof(const Intervals& intervals, PitchClass root)
 {
     unsigned set = 0;
     for (const int semitones : intervals)
-        set |= 1U << ((root + semitones) % 12);
+        set |= 1U << ((root + semitones) % octave);
     return static_cast<NoteSet>(set);
 }
 
@@ -133,9 +133,5 @@ static_assert(std::ranges::all_of(chordtypes, detail::rootfirst));
 static_assert(std::ranges::all_of(chordtypes, [](const ChordType& t) {
     return detail::alternatefits(t, t.frombutton) && detail::alternatefits(t, t.fromnotes);
 }));
-
-/// Text of an alternate reading; `second` and `third` are the chord's slots 2 and 3. Empty when there is none.
-std::string alternatetext(const Alternate& alternate, PitchClass second, PitchClass third,
-                          const NoteSpelling& spelling);
 
 } // namespace core

@@ -38,7 +38,7 @@ constexpr std::array<Names, 4> spellings = [] {
 
 std::string_view spelled(SpellingMode mode, PitchClass pitch)
 {
-    return spellings.at(static_cast<std::size_t>(mode))[static_cast<std::size_t>(pitch % 12)];
+    return spellings.at(static_cast<std::size_t>(mode))[static_cast<std::size_t>(pitch % octave)];
 }
 
 /// Pitch of a name as it is written on the screen, capital first.
@@ -62,9 +62,9 @@ std::string NoteSpelling::notename(PitchClass& n) const
     if (n == nonote)
         return std::string(blank);
     if (n > 24)
-        n = 13 + (n - 13) % 12;
+        n = 13 + (n - 13) % octave;
     else if (n < 0)
-        n = (n % 12 + 12) % 12;
+        n = (n % octave + octave) % octave;
     return std::string(spelled(mode, n));
 }
 
@@ -98,6 +98,12 @@ PitchClass notenumber(std::string_view name)
     std::string written(name);
     written.front() = capital(written.front());
     return writtenpitch(written);
+}
+
+std::string bothnames(PitchClass pitch)
+{
+    const auto p = static_cast<std::size_t>(pitch);
+    return std::string(sharpnames.at(p)) + " " + std::string(flatnames.at(p));
 }
 
 } // namespace core

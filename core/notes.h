@@ -12,6 +12,7 @@ namespace core {
 /// A note without an octave: 0 is C, 11 is B. 12 to 24 name the same notes one and two octaves up (piano key k is note
 /// k).
 using PitchClass = int;
+inline constexpr int octave = 12;             ///< semitones
 inline constexpr PitchClass nonote = 99;      ///< an empty slot; named " "
 inline constexpr std::string_view blank{" "}; ///< what a readout without a note or a chord shows
 
@@ -53,7 +54,7 @@ PitchClass notenumber(std::string_view name);
 /// Whether pitch class `n` (0..24) is one of the piano's black keys.
 constexpr bool isblack(PitchClass n)
 {
-    const PitchClass p = n % 12;
+    const PitchClass p = n % octave;
     return p == 1 || p == 3 || p == 6 || p == 8 || p == 10;
 }
 
@@ -69,5 +70,8 @@ inline constexpr std::array<std::string_view, 12> sharpnames{"C",  "C#", "D",  "
 /// The twelve names in flat spelling, from C.
 inline constexpr std::array<std::string_view, 12> flatnames{"C",  "Db", "D",  "Eb", "E",  "F",
                                                             "Gb", "G",  "Ab", "A",  "Bb", "B"};
+
+/// Both names of a black key, 0..11, the sharp one first: "C# Db".
+std::string bothnames(PitchClass pitch);
 
 } // namespace core

@@ -14,8 +14,8 @@ ScaleRow scalefrom(PitchClass first, const NoteSpelling& spelling)
 
 ScaleRow shifted(const ScaleRow& row, Shift direction, const NoteSpelling& spelling)
 {
-    const PitchClass first = notenumber(row.front()) + static_cast<int>(direction) + 12;
-    return scalefrom(first % 12, spelling);
+    const PitchClass first = notenumber(row.front()) + static_cast<int>(direction) + octave;
+    return scalefrom(first % octave, spelling);
 }
 
 } // namespace core

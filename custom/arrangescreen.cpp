@@ -4,6 +4,7 @@
 
 #include "ui/button.h"
 #include "ui/readout.h"
+#include "ui/text.h"
 
 namespace custom {
 namespace {
@@ -19,15 +20,12 @@ constexpr const char* instruction =
     "be changed. Note that you cannot move data to unused space - but can only change data items in the occupied data "
     "area.";
 
-QString member(const char* array, int index)
-{
-    return QStringLiteral("%1_%2").arg(QLatin1String(array)).arg(index);
-}
-
 } // namespace
 
 ArrangeScreen::ArrangeScreen(const CustomTable& shown, const ui::Look& mainlook, QWidget* owner)
-    : Companion(mainlook, owner), table(shown)
+    : Companion(mainlook, owner),
+      table(shown),
+      roving(new ui::RovingFocus([this](int place, Qt::Key pressed) { return neighbour(place, pressed); }, this))
 {
     setObjectName(QStringLiteral("arrange"));
     setWindowTitle(QStringLiteral("Arrange the Order (position) of custom data"));
@@ -65,12 +63,12 @@ void ArrangeScreen::addplace(QGridLayout* grid, int place)
     const int column = 3 * (place / placesincolumn);
     auto* number =
         new ui::Readout(look, ui::Type::label, ui::Readout::Frame::none, Qt::AlignRight | Qt::AlignVCenter, this);
-    number->setObjectName(member("lblx", place));
+    number->setObjectName(ui::membername("lblx", place));
     number->settext(QString::number(place));
     number->setAccessibleName(QStringLiteral("place %1").arg(place));
     fitsize(number, numbersize);
     auto* box = new EntryBox(look, place, this);
-    box->setObjectName(member("txtx", place));
+    box->setObjectName(ui::membername("txtx", place));
     box->setToolTip(QStringLiteral("drag over another, or pick up and drop with the Space key"));
     fitsize(box, namesize);
     grid->addWidget(number, row, column);
@@ -78,7 +76,7 @@ void ArrangeScreen::addplace(QGridLayout* grid, int place)
     connect(box, &EntryBox::dropped, this, [this, place](int source) { Q_EMIT txtx_DragDrop(place, source); });
     connect(box, &EntryBox::chosen, this, [this, place] { choose(place); });
     connect(box, &EntryBox::left, this, &ArrangeScreen::putback);
-    connect(box, &EntryBox::moved, this, [this, place](int places) { go(place + places); });
+    roving->add(box);
     txtx.at(static_cast<std::size_t>(place)) = box;
 }
 
@@ -102,7 +100,8 @@ void ArrangeScreen::display()
     if (carried && table.at(static_cast<std::size_t>(*carried)).name.empty())
         carried.reset();
     for (std::size_t place = 0; place < placecount; ++place)
-        txtx.at(place)->display(QString::fromStdString(table.at(place).name), carried == static_cast<int>(place));
+        txtx.at(place)->display(ui::totext(table.at(place).name), carried == static_cast<int>(place));
+    roving->leavehidden();
 }
 
 /// The first time picks a box up, the second drops it.
@@ -124,13 +123,25 @@ void ArrangeScreen::putback()
     display();
 }
 
-void ArrangeScreen::go(int place)
+/// Where a key leads among the used places; the place itself where it leads nowhere.
+int ArrangeScreen::neighbour(int place, Qt::Key pressed) const
 {
-    if (place < 0 || place >= static_cast<int>(placecount))
-        return;
-    EntryBox* box = txtx.at(static_cast<std::size_t>(place));
-    if (box->isVisible())
-        box->setFocus(Qt::TabFocusReason);
+    const int last = static_cast<int>(indexnew(table)) - 1;
+    const auto orstay = [&](int reached) { return reached < 0 || reached > last ? place : reached; };
+    switch (pressed) {
+    case Qt::Key_Up:
+        return orstay(place - 1);
+    case Qt::Key_Down:
+        return orstay(place + 1);
+    case Qt::Key_Left:
+        return orstay(place - placesincolumn);
+    case Qt::Key_Right:
+        return orstay(place + placesincolumn);
+    case Qt::Key_Home:
+        return 0;
+    default:
+        return last;
+    }
 }
 
 } // namespace custom

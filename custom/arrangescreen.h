@@ -5,6 +5,7 @@
 #include "custom/customtable.h"
 #include "custom/entrybox.h"
 #include "ui/companion.h"
+#include "ui/rovingfocus.h"
 
 #include <QBoxLayout>
 #include <QGridLayout>
@@ -38,9 +39,10 @@ private:
     void addplace(QGridLayout* grid, int place);
     void choose(int place);
     void putback();
-    void go(int place);
+    int neighbour(int place, Qt::Key pressed) const;
 
     const CustomTable& table;
+    ui::RovingFocus* roving;
     std::array<EntryBox*, placecount> txtx{};
     std::optional<int> carried; ///< the place that was picked up by keyboard
 };

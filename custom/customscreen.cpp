@@ -2,15 +2,12 @@
 // SPDX-License-Identifier: MIT
 #include "custom/customscreen.h"
 
+#include "ui/text.h"
+
 #include <QMenuBar>
 
 namespace custom {
 namespace {
-
-QString text(const std::string& shown)
-{
-    return QString::fromStdString(shown);
-}
 
 struct MenuRow {
     const char* name;
@@ -96,11 +93,11 @@ ui::Readout* CustomScreen::readout(const char* name, ui::Type type, ui::Readout:
 void CustomScreen::display()
 {
     followzoom();
-    txtnum->settext(text(form.txtnum()));
-    txtnum->setAccessibleName(QStringLiteral("data number") + text(form.txtnum()));
-    txtinfo->settext(text(form.txtinfo));
-    txtinfo->setAccessibleName(QStringLiteral("this place is ") + text(form.txtinfo));
-    txtname->display(text(form.txtname), form.guarded());
+    txtnum->settext(ui::totext(form.txtnum()));
+    txtnum->setAccessibleName(QStringLiteral("data number") + ui::totext(form.txtnum()));
+    txtinfo->settext(ui::totext(form.txtinfo));
+    txtinfo->setAccessibleName(QStringLiteral("this place is ") + ui::totext(form.txtinfo));
+    txtname->display(ui::totext(form.txtname), form.guarded());
     chkleft->setChecked(form.chkleft);
     Option2.at(static_cast<std::size_t>(form.Option2))->setChecked(true);
     displaynotes();
@@ -109,13 +106,13 @@ void CustomScreen::display()
 void CustomScreen::displaynotes()
 {
     for (std::size_t box = 0; box < stringcount; ++box) {
-        const QString note = text(form.txtnote.at(box));
+        const QString note = ui::totext(form.txtnote.at(box));
         txtnote.at(box)->setVisible(form.boxvisible(box));
         txtnote.at(box)->setText(note);
         txtnote.at(box)->setAccessibleName(
             QStringLiteral("note of string %1, %2").arg(box + 1).arg(note.isEmpty() ? QStringLiteral("empty") : note));
     }
-    const QString selected = text(form.txtnote[selectionbox]);
+    const QString selected = ui::totext(form.txtnote[selectionbox]);
     selectednote->settext(selected);
     selectednote->setAccessibleName(selected.isEmpty() ? QStringLiteral("no note selected")
                                                        : QStringLiteral("selected note ") + selected);

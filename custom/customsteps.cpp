@@ -4,6 +4,8 @@
 
 #include "custom/customscreen.h"
 
+#include "ui/text.h"
+
 #include <QGridLayout>
 
 namespace custom {
@@ -27,13 +29,13 @@ QBoxLayout* CustomScreen::step(QBoxLayout* column, int number, const char* text)
     auto* row = new QHBoxLayout(card);
     fitroom(row, 9, 9);
     auto* badge = readout("", ui::Type::strong, ui::Readout::Frame::root, {20, 20});
-    badge->setObjectName(QStringLiteral("step_%1").arg(number));
+    badge->setObjectName(ui::membername("step", number));
     badge->settext(QString::number(number));
     row->addWidget(badge, 0, Qt::AlignTop);
     auto* content = new QVBoxLayout;
     fitroom(content, 0, 6);
     auto* instruction = caption("", text, ui::Type::text, stepwidth);
-    instruction->setObjectName(QStringLiteral("instruction_%1").arg(number));
+    instruction->setObjectName(ui::membername("instruction", number));
     content->addWidget(instruction, 0, Qt::AlignLeft);
     row->addLayout(content, 1);
     column->addWidget(card);
@@ -108,7 +110,7 @@ void CustomScreen::addstrings(QBoxLayout* card)
     fitroom(row, 0, 12);
     for (std::size_t i = 0; i < choices.size(); ++i) {
         auto* choice = new QRadioButton(QString::fromLatin1(choices.at(i)), this);
-        choice->setObjectName(QStringLiteral("Option2_%1").arg(i));
+        choice->setObjectName(ui::membername("Option2", static_cast<int>(i)));
         choice->setAccessibleName(choice->text());
         choice->setToolTip(QStringLiteral("number of strings"));
         fitindicator(choice);
@@ -140,7 +142,7 @@ QBoxLayout* CustomScreen::addnoteboxes()
     column->addWidget(high, 0, Qt::AlignHCenter);
     for (std::size_t box = stringcount; box-- > 0;) {
         auto* made = new NoteBox(look, this);
-        made->setObjectName(QStringLiteral("txtnote_%1").arg(box));
+        made->setObjectName(ui::membername("txtnote", static_cast<int>(box)));
         made->setToolTip(QStringLiteral("open note of string %1").arg(box + 1));
         fitsize(made, notesize);
         connect(made, &QAbstractButton::clicked, this, [this, box] { stage.act([&] { form.txtnote_Click(box); }); });
@@ -161,7 +163,7 @@ QBoxLayout* CustomScreen::addnotebuttons()
         auto* note = button("", notecaptions.at(static_cast<std::size_t>(i)), "select this note",
                             [this, i] { stage.act([&] { form.cmdret_Click(i + 1); }); });
         note->setbackColor(QColor(core::midgrey));
-        note->setObjectName(QStringLiteral("cmdret_%1").arg(i + 1));
+        note->setObjectName(ui::membername("cmdret", i + 1));
         grid->addWidget(note, i / buttonsinrow, i % buttonsinrow);
     }
     selectednote = readout("txtnote_6", ui::Type::reading, ui::Readout::Frame::root, {58, 32});

@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: MIT
 #include "custom/entrybox.h"
 
-#include "custom/arrangescreen.h"
 #include "ui/paint.h"
 
 #include <QDrag>
@@ -32,7 +31,6 @@ EntryBox* sourceof(const QDropEvent& event)
 EntryBox::EntryBox(const ui::Look& shownlook, int place, QWidget* parent)
     : QWidget(parent), look(shownlook), index(place)
 {
-    setFocusPolicy(Qt::StrongFocus);
     setAcceptDrops(true);
     setCursor(Qt::OpenHandCursor);
 }
@@ -120,14 +118,6 @@ void EntryBox::keyPressEvent(QKeyEvent* event)
         return Q_EMIT chosen();
     case Qt::Key_Escape:
         return Q_EMIT left();
-    case Qt::Key_Up:
-        return Q_EMIT moved(-1);
-    case Qt::Key_Down:
-        return Q_EMIT moved(1);
-    case Qt::Key_Left:
-        return Q_EMIT moved(-placesincolumn);
-    case Qt::Key_Right:
-        return Q_EMIT moved(placesincolumn);
     default:
         QWidget::keyPressEvent(event);
     }

@@ -9,7 +9,7 @@
 namespace custom {
 
 /// A name on the arrange screen, to be dragged with the pointer onto another and to be dropped upon.
-/// By keyboard: Space or Enter picks it up or drops on it, the arrow keys go to a neighbour.
+/// By keyboard: Space or Enter picks it up or drops on it, Escape puts back.
 class EntryBox : public QWidget {
     Q_OBJECT
     Q_PROPERTY(QString text READ text)
@@ -25,7 +25,6 @@ Q_SIGNALS:
     void dropped(int source); ///< box `source` was dropped here, perhaps this one itself
     void chosen();            ///< Space or Enter
     void left();              ///< Escape
-    void moved(int places);   ///< an arrow key: so many places on
 
 protected:
     void mousePressEvent(QMouseEvent* event) override;

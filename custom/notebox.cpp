@@ -13,7 +13,7 @@ constexpr double corner = 4;
 
 } // namespace
 
-NoteBox::NoteBox(const ui::Look& shownlook, QWidget* parent) : QAbstractButton(parent), look(shownlook)
+NoteBox::NoteBox(const ui::Look& shownlook, QWidget* parent) : NoteButton(shownlook, core::nocolour, parent)
 {
     setFocusPolicy(Qt::TabFocus);
 }
@@ -25,26 +25,8 @@ void NoteBox::paintEvent(QPaintEvent* /*event*/)
     ui::paintbox(painter, look, rect(), underMouse() ? theme.hover : theme.button,
                  underMouse() ? theme.accent : theme.hairline, corner);
     ui::painttext(painter, rect(), text(), look.font(ui::Type::strong), theme.text);
-    if (hasFocus() && ring)
+    if (showsfocus())
         ui::paintfocus(painter, look, rect(), corner);
-}
-
-void NoteBox::focusInEvent(QFocusEvent* event)
-{
-    ring = ui::bykeyboard(*event);
-    QAbstractButton::focusInEvent(event);
-}
-
-void NoteBox::enterEvent(QEnterEvent* event)
-{
-    QAbstractButton::enterEvent(event);
-    update();
-}
-
-void NoteBox::leaveEvent(QEvent* event)
-{
-    QAbstractButton::leaveEvent(event);
-    update();
 }
 
 } // namespace custom

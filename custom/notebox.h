@@ -2,14 +2,12 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "ui/look.h"
-
-#include <QAbstractButton>
+#include "ui/notebutton.h"
 
 namespace custom {
 
-/// The box of a string's open note. Nobody types into it: a click, or Space, writes the selected note there.
-class NoteBox : public QAbstractButton {
+/// The box of a string's open note. Nobody types into it: a click, Space or Enter writes the selected note there.
+class NoteBox : public ui::NoteButton {
     Q_OBJECT
 
 public:
@@ -17,13 +15,6 @@ public:
 
 protected:
     void paintEvent(QPaintEvent* event) override;
-    void focusInEvent(QFocusEvent* event) override;
-    void enterEvent(QEnterEvent* event) override;
-    void leaveEvent(QEvent* event) override;
-
-private:
-    const ui::Look& look;
-    bool ring = false; ///< the keyboard brought the focus here
 };
 
 } // namespace custom

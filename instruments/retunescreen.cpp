@@ -4,6 +4,7 @@
 
 #include "core/notes.h"
 #include "ui/button.h"
+#include "ui/text.h"
 
 #include <QGridLayout>
 #include <QScreen>
@@ -12,8 +13,8 @@ namespace instruments {
 namespace {
 
 constexpr int notesinrow = 4;
-constexpr int notes = 12;
-constexpr int lastrow = notes / notesinrow + 1;
+constexpr int explanationrow = core::octave / notesinrow + 1;
+constexpr int keeprow = explanationrow + 1;
 constexpr const char* note =
     "Note: if you had just wanted to enter a note using the guitar / strings area - please use "
     "a note that is on the actual fretboard and not on the end such as this one.";
@@ -22,11 +23,9 @@ QString caption(int index)
 {
     if (index == 0)
         return QStringLiteral("no retune");
-    const auto pitch = static_cast<std::size_t>(index - 1);
-    std::string names(core::sharpnames.at(pitch));
-    if (core::isblack(index - 1))
-        names += " " + std::string(core::flatnames.at(pitch));
-    return QString::fromStdString(names);
+    const core::PitchClass pitch = index - 1;
+    return core::isblack(pitch) ? ui::totext(core::bothnames(pitch))
+                                : ui::totext(core::sharpnames.at(static_cast<std::size_t>(pitch)));
 }
 
 } // namespace
@@ -45,17 +44,20 @@ RetuneScreen::RetuneScreen(const ui::Look& shown, QWidget* owner)
     grid->setContentsMargins(room, room, room, room);
     grid->setSpacing(qRound(6 * look.zoom()));
     grid->addWidget(heading, 0, 0, 1, notesinrow);
-    for (int index = 0; index <= notes; ++index) {
-        auto* button = new ui::Button(look, caption(index), this);
-        button->setObjectName(QStringLiteral("cmdret_%1").arg(index));
-        button->setAutoDefault(false);
-        connect(button, &QAbstractButton::clicked, this, [this, index] { Q_EMIT cmdret_Click(index); });
-        if (index == 0)
-            grid->addWidget(button, lastrow, 0, 1, notesinrow);
-        else
-            grid->addWidget(button, 1 + (index - 1) / notesinrow, (index - 1) % notesinrow);
-    }
-    grid->addWidget(explanation, lastrow + 1, 0, 1, notesinrow);
+    for (int index = 1; index <= core::octave; ++index)
+        grid->addWidget(notebutton(index), 1 + (index - 1) / notesinrow, (index - 1) % notesinrow);
+    grid->setRowMinimumHeight(explanationrow, room / 2);
+    grid->addWidget(notebutton(0), keeprow, 0, 1, notesinrow);
+    grid->addWidget(explanation, keeprow + 1, 0, 1, notesinrow);
+}
+
+QWidget* RetuneScreen::notebutton(int index)
+{
+    auto* button = new ui::Button(look, caption(index), this);
+    button->setObjectName(ui::membername("cmdret", index));
+    button->setAutoDefault(false);
+    connect(button, &QAbstractButton::clicked, this, [this, index] { Q_EMIT cmdret_Click(index); });
+    return button;
 }
 
 void RetuneScreen::display(const QString& opennote)

@@ -26,6 +26,8 @@ protected:
     void showEvent(QShowEvent* event) override;
 
 private:
+    QWidget* notebutton(int index);
+
     const ui::Look& look;
     QLabel* heading;
     QLabel* explanation;

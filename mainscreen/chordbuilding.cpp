@@ -1,6 +1,5 @@
 // SPDX-FileCopyrightText: 2026 The tonefret developers
 // SPDX-License-Identifier: MIT
-#include "core/chordtypes.h"
 #include "mainscreen/session.h"
 
 #include <algorithm>

@@ -8,14 +8,6 @@
 namespace mainscreen {
 namespace {
 
-constexpr int octave = 12;
-
-std::string bothnames(core::PitchClass pitch)
-{
-    const auto p = static_cast<std::size_t>(pitch);
-    return std::string(core::sharpnames.at(p)) + " " + std::string(core::flatnames.at(p));
-}
-
 /// Whether a caption names a note. A letter must be the whole caption, or "C" would match "C# Db".
 bool names(std::string_view caption, std::string_view note)
 {
@@ -32,9 +24,10 @@ bool names(std::string_view caption, std::string_view note)
 Keyboard::Keyboard()
 {
     for (int k = 0; k < pianokeys; ++k) {
-        const core::PitchClass pitch = k % octave;
+        const core::PitchClass pitch = k % core::octave;
         key.at(static_cast<std::size_t>(k)).caption =
-            core::isblack(pitch) ? bothnames(pitch) : std::string(core::sharpnames.at(static_cast<std::size_t>(pitch)));
+            core::isblack(pitch) ? core::bothnames(pitch)
+                                 : std::string(core::sharpnames.at(static_cast<std::size_t>(pitch)));
     }
     key.at(resetkey) = {"Reset", core::nocolour};
     keyreset();
@@ -52,7 +45,7 @@ void Keyboard::keyupdate(std::span<const std::string> notes)
     for (int k = 0; k < pianokeys; ++k) {
         Key& shown = key.at(static_cast<std::size_t>(k));
         if (std::ranges::any_of(notes, [&](const std::string& note) { return names(shown.caption, note); }))
-            shown.back = k < octave ? core::darkgrey : core::midgrey;
+            shown.back = k < core::octave ? core::darkgrey : core::midgrey;
     }
 }
 
@@ -60,7 +53,8 @@ void Keyboard::flatkey(const core::NoteSpelling& spelling)
 {
     for (int k = 0; k < pianokeys; ++k)
         if (core::isblack(k))
-            key.at(static_cast<std::size_t>(k)).caption = spelling.both ? bothnames(k % octave) : spelling.nameof(k);
+            key.at(static_cast<std::size_t>(k)).caption =
+                spelling.both ? core::bothnames(k % core::octave) : spelling.nameof(k);
 }
 
 } // namespace mainscreen

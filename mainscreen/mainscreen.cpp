@@ -13,11 +13,17 @@
 #include <QCloseEvent>
 #include <QResizeEvent>
 #include <QScreen>
+#include <QShortcut>
+
+#include <algorithm>
+#include <array>
 
 namespace mainscreen {
 namespace {
 
-constexpr std::array<double, 4> openingzooms{2, 1.5, 1.25, 1};
+constexpr std::array<double, 5> openingzooms{2, 1.5, 1.25, 1, ui::Canvas::smallestzoom};
+constexpr std::array<double, 8> zooms{ui::Canvas::smallestzoom, 1, 1.25, 1.5, 2, 2.5, 3, ui::Canvas::largestzoom};
+constexpr double nearly = 0.01;     ///< zooms this close are the same
 constexpr double menupixels = 12;   ///< size of the menus' type at zoom 1
 constexpr double comfortable = 0.9; ///< of the display's free area, at most
 
@@ -36,12 +42,55 @@ MainScreen::MainScreen(Session& shown, ui::Stage& entered, ui::Look& shared)
     dressmenubar();
     panels.push_back(std::make_unique<PianoPanel>(*canvas, session, stage));
     auto output = std::make_unique<OutputPanel>(*canvas, session, stage);
-    auto takefocus = [panel = output.get()] { panel->focusreset(); };
+    auto takefocus = [panel = output.get()](bool bykeys) { panel->focusreset(bykeys); };
     panels.push_back(std::move(output));
     panels.push_back(std::make_unique<TransposePanel>(*canvas, session, stage));
     panels.push_back(std::make_unique<ChordPanel>(*canvas, session, stage));
     panels.push_back(std::make_unique<SelectorPanel>(*canvas, session, stage, takefocus));
     panels.push_back(std::make_unique<NeckPanel>(*canvas, session, stage));
+    addnotekeys();
+    addzoomkeys();
+}
+
+void MainScreen::onkeys(const QKeySequence& keys, std::function<void()> act)
+{
+    auto* shortcut = new QShortcut(keys, this);
+    connect(shortcut, &QShortcut::activated, this, std::move(act));
+}
+
+/// A letter plays the key of its name in the lower octave, with Shift the black key above it; Escape is Reset.
+void MainScreen::addnotekeys()
+{
+    const auto play = [this](int k) { return [this, k] { stage.act([this, k] { session.key_Click(k); }); }; };
+    for (int k = 0; k < core::octave; ++k) {
+        const std::string_view name = core::sharpnames.at(static_cast<std::size_t>(k));
+        const int letter = Qt::Key_A + (name.front() - 'A');
+        onkeys(QKeySequence(core::isblack(k) ? letter | Qt::SHIFT : letter), play(k));
+    }
+    onkeys(Qt::Key_Escape, play(resetkey));
+}
+
+void MainScreen::addzoomkeys()
+{
+    const auto larger = [this] {
+        const auto next = std::ranges::find_if(zooms, [this](double z) { return z > look.zoom() + nearly; });
+        sizeto(next == zooms.end() ? zooms.back() : *next);
+    };
+    const auto smaller = [this] {
+        const auto next =
+            std::ranges::find_if(zooms.rbegin(), zooms.rend(), [this](double z) { return z < look.zoom() - nearly; });
+        sizeto(next == zooms.rend() ? zooms.front() : *next);
+    };
+    onkeys(Qt::CTRL | Qt::Key_Plus, larger);
+    onkeys(Qt::CTRL | Qt::Key_Equal, larger); // the same key without Shift
+    onkeys(Qt::CTRL | Qt::Key_Minus, smaller);
+    onkeys(Qt::CTRL | Qt::Key_0, [this] { sizeto(1); });
+}
+
+void MainScreen::sizeto(double zoom)
+{
+    scalemenubar(zoom);
+    resize(canvas->sizeat(zoom) + QSize(0, menuBar()->sizeHint().height()));
 }
 
 void MainScreen::display()
@@ -60,10 +109,8 @@ void MainScreen::centre()
 {
     const QRect room = screen()->availableGeometry();
     for (const double zoom : openingzooms) {
-        scalemenubar(zoom);
-        const QSize wanted = canvas->sizeat(zoom) + QSize(0, menuBar()->sizeHint().height());
-        resize(wanted);
-        if (wanted.width() <= room.width() * comfortable && wanted.height() <= room.height() * comfortable)
+        sizeto(zoom);
+        if (width() <= room.width() * comfortable && height() <= room.height() * comfortable)
             break;
     }
     const double left = room.left() + (room.width() - width()) / 2.0;
@@ -95,8 +142,11 @@ void MainScreen::resizeEvent(QResizeEvent* event)
 void MainScreen::changeEvent(QEvent* event)
 {
     QMainWindow::changeEvent(event);
-    if (event->type() == QEvent::PaletteChange)
-        dressmenubar();
+    if (event->type() != QEvent::PaletteChange)
+        return;
+    look.followpalette(palette());
+    dressmenubar();
+    canvas->repaintbackdrop();
 }
 
 void MainScreen::closeEvent(QCloseEvent* event)

@@ -5,8 +5,10 @@
 #include "mainscreen/menus.h"
 #include "mainscreen/panel.h"
 
+#include <QKeySequence>
 #include <QMainWindow>
 
+#include <functional>
 #include <memory>
 #include <optional>
 #include <vector>
@@ -32,6 +34,10 @@ protected:
     void resizeEvent(QResizeEvent* event) override;
 
 private:
+    void addnotekeys();
+    void addzoomkeys();
+    void onkeys(const QKeySequence& keys, std::function<void()> act);
+    void sizeto(double zoom);
     void dressmenubar();
     void scalemenubar(double zoom);
 

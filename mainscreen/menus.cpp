@@ -5,6 +5,7 @@
 #include <QMenu>
 
 #include <array>
+#include <ranges>
 #include <string_view>
 
 namespace mainscreen {
@@ -61,12 +62,21 @@ constexpr auto rows = std::to_array<MenuRow>({
 // clang-format on
 static_assert(rows.front().kind == Kind::menu);
 
-QAction* additem(QMenu* menu, const MenuRow& row, Session& session, ui::Stage& stage)
+QMenu* addmenu(QMenuBar& bar, const MenuRow& row)
 {
-    QAction* action = menu->addAction(QString::fromLatin1(row.caption));
+    QMenu* menu = bar.addMenu(QString::fromLatin1(row.caption));
+    menu->menuAction()->setObjectName(QString::fromLatin1(row.name));
+    return menu;
+}
+
+QAction* additem(QMenu& menu, const MenuRow& row, Session& session, ui::Stage& stage)
+{
+    QAction* action = menu.addAction(QString::fromLatin1(row.caption));
+    action->setObjectName(QString::fromLatin1(row.name));
+    action->setSeparator(row.kind == Kind::separator);
     action->setCheckable(row.kind == Kind::check);
     action->setChecked(row.checked);
-    action->setEnabled(row.handler != nullptr);
+    action->setEnabled(row.handler || action->isSeparator());
     if (row.handler)
         QObject::connect(action, &QAction::triggered, action,
                          [&session, &stage, handler = row.handler] { stage.act([&] { (session.*handler)(); }); });
@@ -77,23 +87,13 @@ QAction* additem(QMenu* menu, const MenuRow& row, Session& session, ui::Stage& s
 
 Menus::Menus(QMenuBar& bar, Session& shown, ui::Stage& entered) : session(shown)
 {
-    QMenu* menu = nullptr;
-    for (const MenuRow& row : rows) {
-        QAction* action = nullptr;
-        switch (row.kind) {
-        case Kind::menu:
-            menu = bar.addMenu(QString::fromLatin1(row.caption));
-            action = menu->menuAction();
-            break;
-        case Kind::separator:
-            action = menu->addSeparator();
-            break;
-        case Kind::item:
-        case Kind::check:
-            action = additem(menu, row, session, entered);
-            break;
+    QMenu* menu = addmenu(bar, rows.front());
+    for (const MenuRow& row : rows | std::views::drop(1)) {
+        if (row.kind == Kind::menu) {
+            menu = addmenu(bar, row);
+            continue;
         }
-        action->setObjectName(QString::fromLatin1(row.name));
+        QAction* action = additem(*menu, row, session, entered);
         if (row.mark)
             marked.push_back({action, row.mark});
     }

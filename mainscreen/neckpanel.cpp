@@ -14,8 +14,8 @@ namespace {
 using places::px;
 
 constexpr ui::Twips barwidth = 7 * px;
-constexpr ui::Twips followerwidth = 2 * px;
-constexpr ui::Twips overhang = 5 * px; ///< of the capo beyond the edges of the neck
+constexpr ui::Twips followerwidth = 3 * px;
+constexpr ui::Twips overhang = 5 * px; ///< of the capo beyond the neck's upper edge
 
 /// The capo's bar, padded and dark, or the thin bright line behind it.
 class CapoShape : public QWidget {
@@ -53,7 +53,8 @@ NeckPanel::NeckPanel(ui::Canvas& drawn, Session& shown, ui::Stage& entered)
     : Panel(drawn, shown, entered),
       capobar(new CapoShape(CapoShape::Part::bar, &canvas)),
       capofollower(new CapoShape(CapoShape::Part::follower, &canvas)),
-      fretcaption(new ui::Readout(canvas.look(), ui::Type::label, ui::Readout::Frame::none, Qt::AlignLeft, &canvas))
+      fretcaption(new ui::Readout(canvas.look(), ui::Type::heading, ui::Readout::Frame::none, Qt::AlignLeft, &canvas)),
+      roving(new ui::RovingFocus([this](int from, Qt::Key pressed) { return neighbour(from, pressed); }, &canvas))
 {
     canvas.addbackdrop(
         [this](QPainter& painter, const ui::Look& look) { paintneck(painter, look, session.fretboard); });
@@ -65,9 +66,41 @@ NeckPanel::NeckPanel(ui::Canvas& drawn, Session& shown, ui::Stage& entered)
         auto* cell = new ui::NoteCell(canvas.look(), &canvas);
         cell->setObjectName(membername("Text1", i));
         onclick(cell, &Session::Text1_Click, i);
+        roving->add(cell);
         Text1.at(static_cast<std::size_t>(i)) = cell;
     }
     placecells();
+}
+
+/// Where a key leads on the neck as it is seen: along the string, across the strings, or to either end of the string.
+int NeckPanel::neighbour(int index, Qt::Key pressed) const
+{
+    const int row = index % instruments::rowcount;
+    const int fret = index / instruments::rowcount;
+    const int towardsbody = session.fretboard.hand == instruments::Hand::right ? Qt::Key_Right : Qt::Key_Left;
+    switch (pressed) {
+    case Qt::Key_Home:
+        return row;
+    case Qt::Key_End:
+        return instruments::cellcount - instruments::rowcount + row;
+    case Qt::Key_Up:
+        return stepped(index, -1, fret * instruments::rowcount, index);
+    case Qt::Key_Down:
+        return stepped(index, 1, index, fret * instruments::rowcount + instruments::lastrow);
+    default:
+        return stepped(index, pressed == towardsbody ? instruments::rowcount : -instruments::rowcount, 0,
+                       instruments::cellcount - 1);
+    }
+}
+
+/// The next visible cell in steps of `step` from `first` to `last`; the cell itself where there is none. A banjo's
+/// missing cells are passed by.
+int NeckPanel::stepped(int index, int step, int first, int last) const
+{
+    for (int next = index + step; next >= first && next <= last; next += step)
+        if (session.fretboard.cell.at(static_cast<std::size_t>(next)).visible)
+            return next;
+    return index;
 }
 
 void NeckPanel::placecells()
@@ -93,6 +126,7 @@ void NeckPanel::display()
         placecells();
     for (int i = 0; i < instruments::cellcount; ++i)
         displaycell(i);
+    roving->leavehidden();
     displaycapo();
 }
 
@@ -100,18 +134,24 @@ void NeckPanel::displaycell(int index)
 {
     const instruments::Cell& state = session.fretboard.cell.at(static_cast<std::size_t>(index));
     ui::NoteCell* cell = Text1.at(static_cast<std::size_t>(index));
-    const QString note = totext(state.text);
-    if (cell->text() != note) {
-        const QString open =
-            totext(session.fretboard.cell.at(static_cast<std::size_t>(index % instruments::rowcount)).text);
-        const int fret = index / instruments::rowcount;
-        cell->setAccessibleName(fret == 0
-                                    ? QString::fromLatin1("%1 string, open").arg(open)
-                                    : QString::fromLatin1("%1 string, fret %2, %3").arg(open).arg(fret).arg(note));
-    }
-    cell->display(note, state.back);
+    const QString name = spokenname(index);
+    if (cell->accessibleName() != name)
+        cell->setAccessibleName(name);
+    cell->display(totext(state.text), state.back);
     if (cell->isHidden() == state.visible)
         cell->setVisible(state.visible);
+}
+
+/// "E string, fret 3, G": how the cell is read aloud.
+QString NeckPanel::spokenname(int index) const
+{
+    const auto note = [this](int cell) {
+        return totext(session.fretboard.cell.at(static_cast<std::size_t>(cell)).text);
+    };
+    const int fret = index / instruments::rowcount;
+    const QString open = note(index % instruments::rowcount);
+    return fret == 0 ? QString::fromLatin1("%1 string, open").arg(open)
+                     : QString::fromLatin1("%1 string, fret %2, %3").arg(open).arg(fret).arg(note(index));
 }
 
 void NeckPanel::displaycapo()
@@ -119,7 +159,7 @@ void NeckPanel::displaycapo()
     const instruments::CapoMarker& marker = session.capomarker;
     const ui::TwipRect neck = neckplace(session.fretboard);
     const ui::Twips top = neck.top - overhang;
-    const ui::Twips height = neck.height + 2 * overhang;
+    const ui::Twips height = neck.height + overhang;
     canvas.place(capobar, {marker.barleft, top, barwidth, height});
     canvas.place(capofollower, {marker.followerleft, top, followerwidth, height});
     capobar->setVisible(marker.barvisible);

@@ -4,6 +4,7 @@
 
 #include "mainscreen/panel.h"
 #include "ui/notecell.h"
+#include "ui/rovingfocus.h"
 
 namespace mainscreen {
 
@@ -17,12 +18,16 @@ public:
 
 private:
     void displaycell(int index);
+    QString spokenname(int index) const;
     void displaycapo();
     void placecells();
+    int neighbour(int index, Qt::Key pressed) const;
+    int stepped(int index, int step, int first, int last) const;
 
     QWidget* capobar = nullptr;
     QWidget* capofollower = nullptr;
     ui::Readout* fretcaption = nullptr;
+    ui::RovingFocus* roving = nullptr;
     std::array<ui::NoteCell*, instruments::cellcount> Text1{};
     instruments::Hand shownhand = instruments::Hand::right;
     instruments::StringLayout shownlayout = instruments::StringLayout::sixstrings;

@@ -19,7 +19,8 @@ using ui::TwipRect;
 using ui::Twips;
 
 constexpr std::array<int, 8> inlayfrets{3, 5, 7, 9, 12, 15, 17, 19};
-constexpr Twips nutwidth = 4 * px;
+constexpr Twips nutwidth = 6 * px;
+constexpr Twips headreach = 11 * px; ///< of the strings beyond their open cells
 
 Twips columnleft(int fret, Hand hand)
 {
@@ -81,6 +82,14 @@ void paintinlays(QPainter& painter, const Look& look, const TwipRect& neck, Hand
     }
 }
 
+void paintnut(QPainter& painter, const Look& look, const TwipRect& neck, Hand hand)
+{
+    const TwipRect place{wire(0, hand) - nutwidth / 2, neck.top, nutwidth, neck.height};
+    const QRectF nut = look.exact(place);
+    painter.fillRect(nut.translated((hand == Hand::right ? 1.2 : -1.2) * look.zoom(), 0), QColor(0, 0, 0, 90));
+    ui::paintbox(painter, look, nut, QColor(0xF1, 0xE8, 0xD6), QColor(0xB9, 0xAD, 0x96), 1.5);
+}
+
 void paintwires(QPainter& painter, const Look& look, const TwipRect& neck, Hand hand)
 {
     const QRectF wood = look.exact(neck);
@@ -91,8 +100,7 @@ void paintwires(QPainter& painter, const Look& look, const TwipRect& neck, Hand 
         painter.fillRect(QRectF(x - look.zoom(), wood.top(), 1.6 * look.zoom(), wood.height()),
                          QColor(0xD8, 0xC8, 0x9E));
     }
-    const TwipRect nut{wire(0, hand) - nutwidth / 2, neck.top, nutwidth, neck.height};
-    ui::paintbox(painter, look, look.exact(nut), QColor(0xF1, 0xE8, 0xD6), QColor(0xB9, 0xAD, 0x96), 1.5);
+    paintnut(painter, look, neck, hand);
 }
 
 struct StringKind {
@@ -100,35 +108,46 @@ struct StringKind {
     bool wound;
 };
 
-/// The string on row `row`: heavier downward, the lower half wound; a banjo's fifth is as thin as its first.
+/// The string on row `row`: heavier downward, the lower half wound; of a banjo's only the fourth is, and its short
+/// fifth is as thin as its first.
 StringKind stringkind(int row, instruments::StringLayout layout)
 {
+    const int first = instruments::layoutrow(layout).firstrow;
+    const int place = row - first;
     if (layout == instruments::StringLayout::shortfifth)
-        return row == instruments::lastrow ? StringKind{0.9, false} : StringKind{0.9 + 0.25 * (row - 1), row == 4};
-    return {0.9 + 0.3 * row, row >= 3};
+        return row == instruments::lastrow ? StringKind{0.9, false} : StringKind{0.9 + 0.25 * place, place == 3};
+    const int strings = instruments::rowcount - first;
+    return {0.9 + 0.3 * place, place >= strings - strings / 2};
 }
 
-/// A row's string lies behind its open cell, over the neck and a piece beyond it. The banjo's fifth begins at its peg.
-void paintstring(QPainter& painter, const Look& look, const Fretboard& board, int row)
+/// From where to where a string is seen: over the neck and a piece beyond either end. A banjo's fifth begins at its
+/// peg.
+TwipRect stringplace(const Fretboard& board, bool shortstring, Twips height)
 {
-    const StringKind kind = stringkind(row, board.layout);
-    const double y = look.pixels(board.rowtop.at(static_cast<std::size_t>(row)) + instruments::rowheight / 2);
     const instruments::HandRow& ends = instruments::handrow(board.hand);
-    const bool right = board.hand == Hand::right;
+    const Twips peg = wire(instruments::shortstringfret, board.hand);
+    if (board.hand == Hand::right) {
+        const Twips from = shortstring ? peg : columnleft(0, board.hand) - headreach;
+        return {from, height, ends.segmentright - from, 0};
+    }
+    const Twips to = shortstring ? peg : columnright(0, board.hand) + headreach;
+    return {ends.segmentleft, height, to - ends.segmentleft, 0};
+}
+
+/// The string along line `line` (0 top .. 5 bottom).
+void paintstring(QPainter& painter, const Look& look, const Fretboard& board, int line)
+{
+    const instruments::LayoutRow& shown = instruments::layoutrow(board.layout);
+    const int row = shown.firstrow + line - shown.firstline;
     const bool shortstring = board.layout == instruments::StringLayout::shortfifth && row == instruments::lastrow;
-    const int firstfret = shortstring ? instruments::shortstringfret : 0;
-    const Twips reach = shortstring ? 0 : 11 * px;
-    const Twips from =
-        right ? (shortstring ? wire(firstfret, board.hand) : columnleft(0, board.hand) - reach) : ends.segmentleft;
-    const Twips to =
-        right ? ends.segmentright : (shortstring ? wire(firstfret, board.hand) : columnright(0, board.hand) + reach);
-    const QColor metal = kind.wound ? QColor(0xC2, 0x9C, 0x57) : QColor(0xB9, 0xB7, 0xB1);
-    const QRectF line(look.pixels(from), y - kind.weight * look.zoom() / 2, look.pixels(to - from),
-                      kind.weight * look.zoom());
-    painter.fillRect(line.translated(0, 0.8 * look.zoom()), QColor(0, 0, 0, 60));
-    painter.fillRect(line, metal);
+    const Twips height = instruments::linetops.at(static_cast<std::size_t>(line));
+    const StringKind kind = stringkind(row, board.layout);
+    const double half = kind.weight * look.zoom() / 2;
+    const QRectF metal = look.exact(stringplace(board, shortstring, height)).adjusted(0, -half, 0, half);
+    painter.fillRect(metal.translated(0, 0.8 * look.zoom()), QColor(0, 0, 0, 60));
+    painter.fillRect(metal, kind.wound ? QColor(0xC2, 0x9C, 0x57) : QColor(0xB9, 0xB7, 0xB1));
     if (shortstring)
-        paintdot(painter, look, wire(firstfret, board.hand), board.rowtop.back() + instruments::rowheight / 2, 3);
+        paintdot(painter, look, wire(instruments::shortstringfret, board.hand), height, 3);
 }
 
 void paintnumbers(QPainter& painter, const Look& look, const TwipRect& neck, Hand hand)
@@ -162,8 +181,9 @@ void paintneck(QPainter& painter, const Look& look, const Fretboard& fretboard)
     paintwood(painter, look, neck);
     paintwires(painter, look, neck, fretboard.hand);
     paintinlays(painter, look, neck, fretboard.hand);
-    for (int row = instruments::layoutrow(fretboard.layout).firstrow; row < instruments::rowcount; ++row)
-        paintstring(painter, look, fretboard, row);
+    for (int line = 0; line < instruments::rowcount; ++line)
+        if (fretboard.linevisible.at(static_cast<std::size_t>(line)))
+            paintstring(painter, look, fretboard, line);
     paintnumbers(painter, look, neck, fretboard.hand);
 }
 

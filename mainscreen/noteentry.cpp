@@ -36,8 +36,8 @@ void Session::noteentry(int& ent)
     if (reset) {
         ent = core::rereadnotes;
     } else {
-        if (ent > 12)
-            ent -= 12;
+        if (ent > core::highestentered)
+            ent -= core::octave;
         chordslots.root = core::nonote;
         chordslots.alternateroot = core::nonote;
         chordslots.name = core::blank;

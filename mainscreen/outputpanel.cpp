@@ -54,6 +54,8 @@ void OutputPanel::addreadouts()
     note[7] = add(membername("note", 7), Type::strong, Frame::box, Qt::AlignHCenter, places::alsoroot);
     cordtyp1 = add(QStringLiteral("cordtyp1"), Type::reading, Frame::box, Qt::AlignLeft, places::chordname);
     cordtyp2 = add(QStringLiteral("cordtyp2"), Type::text, Frame::box, Qt::AlignLeft, places::alsoname);
+    for (ui::Readout* readout : note)
+        readout->fit(ui::widestname());
     for (int i = 0; i < 6; ++i)
         note.at(static_cast<std::size_t>(i))->setAccessibleName(QString::fromLatin1("Note %1").arg(i + 1));
     note[6]->setAccessibleName(QStringLiteral("Root of the chord"));

@@ -14,8 +14,8 @@ public:
     void display() override;
     void displaytips(const Tips& tips) override;
 
-    /// Where the keyboard acts after a choice from a list.
-    void focusreset() { reset->setFocus(); }
+    /// Where the keyboard acts after a choice from a list; it shows there for those who chose by keys.
+    void focusreset(bool bykeys) { reset->setFocus(bykeys ? Qt::ShortcutFocusReason : Qt::OtherFocusReason); }
 
 private:
     void addcaptions();

@@ -7,21 +7,12 @@
 #include "ui/canvas.h"
 #include "ui/readout.h"
 #include "ui/stage.h"
-
-#include <QString>
+#include "ui/text.h"
 
 namespace mainscreen {
 
-inline QString totext(std::string_view text)
-{
-    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
-}
-
-/// "key_0": the name of a member of an array of controls.
-inline QString membername(const char* array, int index)
-{
-    return QString::fromLatin1("%1_%2").arg(QLatin1String(array)).arg(index);
-}
+using ui::membername;
+using ui::totext;
 
 /// A group of controls of the main screen that belong together.
 class Panel {

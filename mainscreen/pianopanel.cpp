@@ -6,6 +6,8 @@
 
 #include <QPainter>
 
+#include <algorithm>
+
 namespace mainscreen {
 namespace {
 
@@ -22,15 +24,35 @@ void paintcase(QPainter& painter, const ui::Look& look)
 /// "C sharp key, lower octave": how the key is read aloud.
 QString spokenname(int k)
 {
-    QString note = totext(core::sharpnames.at(static_cast<std::size_t>(k % 12)));
+    QString note = totext(core::sharpnames.at(static_cast<std::size_t>(k % core::octave)));
     note.replace(QLatin1Char('#'), QLatin1String(" sharp"));
-    const char* octave = k < 12 ? "lower octave" : k < 24 ? "upper octave" : "top";
+    const char* octave = k < core::octave ? "lower octave" : k < 2 * core::octave ? "upper octave" : "top";
     return QString::fromLatin1("%1 key, %2").arg(note, QLatin1String(octave));
+}
+
+/// To the sides by semitones, up and down by octaves.
+int neighbour(int k, Qt::Key pressed)
+{
+    switch (pressed) {
+    case Qt::Key_Home:
+        return 0;
+    case Qt::Key_End:
+        return pianokeys - 1;
+    case Qt::Key_Left:
+        return std::max(k - 1, 0);
+    case Qt::Key_Right:
+        return std::min(k + 1, pianokeys - 1);
+    case Qt::Key_Up:
+        return k + core::octave < pianokeys ? k + core::octave : k;
+    default:
+        return k >= core::octave ? k - core::octave : k;
+    }
 }
 
 } // namespace
 
-PianoPanel::PianoPanel(ui::Canvas& drawn, Session& shown, ui::Stage& entered) : Panel(drawn, shown, entered)
+PianoPanel::PianoPanel(ui::Canvas& drawn, Session& shown, ui::Stage& entered)
+    : Panel(drawn, shown, entered), roving(new ui::RovingFocus(neighbour, &canvas))
 {
     canvas.addbackdrop(paintcase);
     for (int k = 0; k < pianokeys; ++k)
@@ -39,6 +61,8 @@ PianoPanel::PianoPanel(ui::Canvas& drawn, Session& shown, ui::Stage& entered) : 
     for (int k = 0; k < pianokeys; ++k)
         if (core::isblack(k))
             addkey(k); // after the white ones, so that it lies over them
+    for (ui::PianoKey* each : key)
+        roving->add(each);
 }
 
 void PianoPanel::addkey(int k)

@@ -4,6 +4,7 @@
 
 #include "mainscreen/panel.h"
 #include "ui/pianokey.h"
+#include "ui/rovingfocus.h"
 
 namespace mainscreen {
 
@@ -19,6 +20,7 @@ private:
     void addkey(int k);
 
     std::array<ui::PianoKey*, pianokeys> key{};
+    ui::RovingFocus* roving = nullptr;
 };
 
 } // namespace mainscreen

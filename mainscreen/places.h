@@ -25,7 +25,7 @@ inline constexpr TwipRect felt{keycase.left + 4 * px, keycase.top + 5 * px, 368 
 inline constexpr Twips keytop = felt.bottom();
 inline constexpr Twips whitewidth = 368;
 inline constexpr Twips whiteheight = 112 * px;
-inline constexpr Twips blackwidth = 248;
+inline constexpr Twips blackwidth = 264;
 inline constexpr Twips blackheight = 66 * px;
 inline constexpr Twips tallestblack = 1000; ///< a key up to this height is a black one
 
@@ -34,7 +34,7 @@ struct BlackOffset {
     core::PitchClass pitch;
     Twips offset;
 };
-inline constexpr std::array<BlackOffset, 5> blackoffsets{{{1, -40}, {3, 40}, {6, -44}, {8, 0}, {10, 44}}};
+inline constexpr std::array<BlackOffset, 5> blackoffsets{{{1, -36}, {3, 36}, {6, -40}, {8, 0}, {10, 40}}};
 
 /// White keys to the left of key `k`'s left edge or, for a black key, of its crack.
 constexpr int whitesbefore(int k)
@@ -50,7 +50,7 @@ constexpr TwipRect keyplace(int k)
     const Twips edge = felt.left + whitesbefore(k) * whitewidth;
     if (!core::isblack(k))
         return {edge, keytop, whitewidth, whiteheight};
-    const auto* found = std::ranges::find(blackoffsets, k % 12, &BlackOffset::pitch);
+    const auto* found = std::ranges::find(blackoffsets, k % core::octave, &BlackOffset::pitch);
     return {edge + found->offset - blackwidth / 2, keytop, blackwidth, blackheight};
 }
 static_assert(keyplace(0).height > tallestblack && keyplace(1).height <= tallestblack);
@@ -68,17 +68,17 @@ inline constexpr TwipRect alsoname{284 * px, 168 * px, 92 * px, 24 * px};
 inline constexpr TwipRect notescaption{26 * px, 200 * px, 38 * px, 24 * px};
 constexpr TwipRect noteplace(int i)
 {
-    return {(64 + 36 * i) * px, 200 * px, 32 * px, 24 * px};
+    return {(64 + 33 * i) * px, 200 * px, 30 * px, 24 * px};
 }
-inline constexpr TwipRect reset{282 * px, 200 * px, 34 * px, 24 * px};
-inline constexpr TwipRect camera{320 * px, 200 * px, 56 * px, 24 * px};
+inline constexpr TwipRect reset{266 * px, 200 * px, 44 * px, 24 * px};
+inline constexpr TwipRect camera{314 * px, 200 * px, 62 * px, 24 * px};
 
 // Transposition and spelling
 inline constexpr TwipRect transposecaption{16 * px, 244 * px, 62 * px, 18 * px};
 inline constexpr TwipRect lineupcaption{78 * px, 244 * px, 110 * px, 18 * px};
-inline constexpr TwipRect sharps{248 * px, 243 * px, 44 * px, 20 * px};
-inline constexpr TwipRect flats{294 * px, 243 * px, 44 * px, 20 * px};
-inline constexpr TwipRect automatic{340 * px, 243 * px, 44 * px, 20 * px};
+inline constexpr TwipRect sharps{236 * px, 243 * px, 48 * px, 20 * px};
+inline constexpr TwipRect flats{286 * px, 243 * px, 48 * px, 20 * px};
+inline constexpr TwipRect automatic{336 * px, 243 * px, 48 * px, 20 * px};
 constexpr Twips rowtop(std::size_t row)
 {
     return (268 + 24 * static_cast<int>(row)) * px;

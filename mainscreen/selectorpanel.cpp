@@ -7,7 +7,8 @@
 namespace mainscreen {
 
 // clang-format off
-SelectorPanel::SelectorPanel(ui::Canvas& drawn, Session& shown, ui::Stage& entered, std::function<void()> chosen)
+SelectorPanel::SelectorPanel(ui::Canvas& drawn, Session& shown, ui::Stage& entered,
+                             const std::function<void(bool bykeys)>& chosen)
     : Panel(drawn, shown, entered), lists{{
 //    name         caption's own name    caption                 place            state                 handler                     tip               gives the focus back
     { "cbotype",   "family",             "Family",               places::familylist,  &Session::cbotype,    &Session::cbotype_Click,    &Tips::cbotype,   true  },
@@ -24,7 +25,7 @@ SelectorPanel::SelectorPanel(ui::Canvas& drawn, Session& shown, ui::Stage& enter
         QObject::connect(list.box, &ui::SelectorBox::picked, list.box, [this, list, chosen](int item) {
             stage.act([&] { (session.*list.handler)(item); });
             if (list.givesfocusback)
-                chosen();
+                chosen(list.box->usedbykeys());
         });
     }
     optd = put(new ui::Button(canvas.look(), Qt::LeftArrow, &canvas), QStringLiteral("optd"), places::optiondown);

@@ -11,7 +11,8 @@ namespace mainscreen {
 class SelectorPanel : public Panel {
 public:
     /// `chosen` runs after each choice of a family or a tuning, to take the keyboard from the list.
-    SelectorPanel(ui::Canvas& drawn, Session& shown, ui::Stage& entered, std::function<void()> chosen);
+    SelectorPanel(ui::Canvas& drawn, Session& shown, ui::Stage& entered,
+                  const std::function<void(bool bykeys)>& chosen);
 
     void display() override;
     void displaytips(const Tips& tips) override;

@@ -50,8 +50,8 @@ inline constexpr std::size_t lowerrow = 1;
 
 /// How the chord's name follows its moved notes.
 enum class Reread : std::uint8_t {
-    fromnotes = 1, ///< the moved notes are read as a chord again
-    fromtype = 0,  ///< the chord type last used is built on the moved root
+    fromnotes, ///< the moved notes are read as a chord again
+    fromtype,  ///< the chord type last used is built on the moved root
 };
 
 /// The program's one state and the procedures that change it, each named after the event or the act that it is.
@@ -174,7 +174,7 @@ private:
     void flatkey();
     void dospelling(const SpellingChoice& choice);
     void shiftrow(std::size_t row, core::Shift direction);
-    bool lefthanded() const;
+    instruments::Hand hand() const;
     std::span<const std::string> firstnotes(std::size_t count) const;
     bool applycustom();
 

@@ -95,7 +95,7 @@ bool Session::applycustom()
 
 void Session::dorightlefthand()
 {
-    fretboard.hand = lefthanded() ? instruments::Hand::left : instruments::Hand::right;
+    fretboard.hand = hand();
     guitarcolor();
 }
 
@@ -104,9 +104,9 @@ std::span<const std::string> Session::firstnotes(std::size_t count) const
     return std::span(note).first(count);
 }
 
-bool Session::lefthanded() const
+instruments::Hand Session::hand() const
 {
-    return cboleft.text == lefthand;
+    return cboleft.text == lefthand ? instruments::Hand::left : instruments::Hand::right;
 }
 
 void Session::guitarcolor()
@@ -116,19 +116,19 @@ void Session::guitarcolor()
         return;
     if (cbopreset.text.starts_with(instruments::showall)) {
         fretboard.mark({0, instruments::cellcount - 1}, firstnotes(notesinshowall));
-        capomarker.getcapo(0, fretboard.hand);
+        capomarker.getcapo(0, hand());
         return;
     }
     const instruments::CapoSpan& choice = instruments::capospan(cbopreset.text);
     PositionFret = choice.fret;
-    capomarker.getcapo(PositionFret, fretboard.hand);
+    capomarker.getcapo(PositionFret, hand());
     fretboard.mark(choice.span, firstnotes(chordslots.notes.size()));
     fretboard.fadefurther(choice.span);
 }
 
 void Session::optu_Click()
 {
-    if (lefthanded())
+    if (hand() == instruments::Hand::left)
         presetstepdown();
     else
         presetstepup();
@@ -136,7 +136,7 @@ void Session::optu_Click()
 
 void Session::optd_Click()
 {
-    if (lefthanded())
+    if (hand() == instruments::Hand::left)
         presetstepup();
     else
         presetstepdown();

@@ -3,11 +3,12 @@
 #include "mainscreen/transposepanel.h"
 
 #include "mainscreen/places.h"
+#include "ui/paint.h"
 
 namespace mainscreen {
 namespace {
 
-constexpr int rowlength = 15;
+constexpr int rowlength = std::tuple_size_v<core::ScaleRow>;
 
 } // namespace
 
@@ -23,10 +24,13 @@ TransposePanel::TransposePanel(ui::Canvas& drawn, Session& shown, ui::Stage& ent
     caption("transpose", "transpose", ui::Type::heading, places::transposecaption);
     caption("lineup", "line up the notes", ui::Type::label, places::lineupcaption);
     for (std::size_t row = 0; row < trans1.size(); ++row)
-        for (int k = 0; k < rowlength; ++k)
-            trans1.at(row).at(static_cast<std::size_t>(k)) =
+        for (int k = 0; k < rowlength; ++k) {
+            auto* readout =
                 put(new ui::Readout(canvas.look(), ui::Type::text, ui::Readout::Frame::box, Qt::AlignHCenter, &canvas),
                     membername("trans1", k + rowlength * static_cast<int>(row)), places::scaleplace(row, k));
+            readout->fit(ui::widestname());
+            trans1.at(row).at(static_cast<std::size_t>(k)) = readout;
+        }
     addshifts();
     addspellings();
 }

@@ -40,6 +40,7 @@ void Session::transpose(int semitones, Reread reread)
     if (reread == Reread::fromnotes) {
         core::PitchClass first = core::notenumber(note[0]);
         noteentry(first);
+        // Entered notes were read before Auto could re-spell them: once more, so that slots and readouts agree.
         first = core::notenumber(note[0]);
         core::chordmatch(first, chordslots, chordindex, spelling);
     } else {

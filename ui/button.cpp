@@ -14,6 +14,7 @@ Button::Button(const Look& shownlook, const QString& caption, QWidget* parent, S
     : QPushButton(caption, parent), look(shownlook), shape(drawn)
 {
     setFocusPolicy(Qt::TabFocus);
+    setAttribute(Qt::WA_Hover);
 }
 
 Button::Button(const Look& shownlook, Qt::ArrowType pointing, QWidget* parent) : Button(shownlook, QString(), parent)
@@ -91,18 +92,6 @@ void Button::focusInEvent(QFocusEvent* event)
 {
     ring = bykeyboard(*event);
     QPushButton::focusInEvent(event);
-}
-
-void Button::enterEvent(QEnterEvent* event)
-{
-    QPushButton::enterEvent(event);
-    update();
-}
-
-void Button::leaveEvent(QEvent* event)
-{
-    QPushButton::leaveEvent(event);
-    update();
 }
 
 } // namespace ui

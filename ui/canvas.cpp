@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: MIT
 #include "ui/canvas.h"
 
-#include <QEvent>
 #include <QPaintEvent>
 #include <QPainter>
 
@@ -69,18 +68,9 @@ void Canvas::resizeEvent(QResizeEvent* event)
     layoutcontrols();
 }
 
-void Canvas::changeEvent(QEvent* event)
-{
-    QWidget::changeEvent(event);
-    if (event->type() == QEvent::PaletteChange || event->type() == QEvent::ApplicationPaletteChange) {
-        shown.followpalette(palette());
-        repaintbackdrop();
-    }
-}
-
 void Canvas::paintEvent(QPaintEvent* event)
 {
-    if (picture.isNull()) {
+    if (picture.isNull() || picture.devicePixelRatio() != devicePixelRatioF()) {
         picture = QPixmap(size() * devicePixelRatioF());
         picture.setDevicePixelRatio(devicePixelRatioF());
         picture.fill(shown.theme().surface);

@@ -21,7 +21,7 @@ class Canvas : public QWidget {
 public:
     using Backdrop = std::function<void(QPainter&, const Look&)>;
 
-    /// `shownlook` follows this canvas's zoom and palette from now on.
+    /// `shownlook` follows this canvas's zoom from now on.
     Canvas(Look& shownlook, QSize twips, QWidget* parent = nullptr);
 
     /// Puts a control, made with this canvas as its parent, at its place.
@@ -43,7 +43,6 @@ public:
 protected:
     void resizeEvent(QResizeEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
-    void changeEvent(QEvent* event) override;
 
 private:
     struct Placed {

@@ -9,21 +9,6 @@
 
 namespace ui {
 
-NoteCell::NoteCell(const Look& shownlook, QWidget* parent) : QAbstractButton(parent), look(shownlook)
-{
-    setFocusPolicy(Qt::NoFocus);
-}
-
-void NoteCell::display(const QString& note, core::Colour colour)
-{
-    if (text() != note)
-        setText(note);
-    if (back == colour)
-        return;
-    back = colour;
-    update();
-}
-
 void NoteCell::paintEvent(QPaintEvent* /*event*/)
 {
     QPainter painter(this);
@@ -32,19 +17,11 @@ void NoteCell::paintEvent(QPaintEvent* /*event*/)
     const QRectF pill = QRectF(rect()).adjusted(0, gap, 0, -gap);
     const QColor edge = marked ? markink() : underMouse() ? look.theme().accent : QColor(0xCF, 0xCA, 0xBE);
     paintbox(painter, look, pill, tocolour(back), edge, pill.height() / 2 / look.zoom());
-    painttext(painter, pill.adjusted(gap, 0, -gap, 0), text(), look.font(marked ? Type::mark : Type::note), markink());
-}
-
-void NoteCell::enterEvent(QEnterEvent* event)
-{
-    QAbstractButton::enterEvent(event);
-    update();
-}
-
-void NoteCell::leaveEvent(QEvent* event)
-{
-    QAbstractButton::leaveEvent(event);
-    update();
+    const QRectF room = pill.adjusted(gap, 0, -gap, 0);
+    painttext(painter, room, text(), fitted(look.font(marked ? Type::mark : Type::note), widestname(), room.width()),
+              markink());
+    if (showsfocus())
+        paintfocus(painter, look, pill, pill.height() / 2 / look.zoom());
 }
 
 } // namespace ui

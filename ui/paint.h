@@ -15,6 +15,12 @@ namespace ui {
 void paintbox(QPainter& painter, const Look& look, const QRectF& box, const QColor& face, const QColor& edge,
               double corner);
 
+/// The widest of the notes' names, in which all have one size.
+inline QString widestname()
+{
+    return QStringLiteral("G#");
+}
+
 /// The font, in a smaller size where `text` would be wider than `width` pixels.
 QFont fitted(const QFont& font, const QString& text, double width);
 

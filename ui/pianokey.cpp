@@ -25,19 +25,8 @@ QPainterPath keyshape(const QRectF& box, double corner)
 } // namespace
 
 PianoKey::PianoKey(const Look& shownlook, Kind made, QWidget* parent)
-    : QAbstractButton(parent), look(shownlook), kind(made), back(made == Kind::white ? core::white : core::lightgrey)
+    : NoteButton(shownlook, made == Kind::white ? core::white : core::lightgrey, parent), kind(made)
 {
-    setFocusPolicy(Qt::NoFocus);
-}
-
-void PianoKey::display(const QString& caption, core::Colour colour)
-{
-    if (text() != caption)
-        setText(caption);
-    if (back == colour)
-        return;
-    back = colour;
-    update();
 }
 
 void PianoKey::paintEvent(QPaintEvent* /*event*/)
@@ -46,14 +35,15 @@ void PianoKey::paintEvent(QPaintEvent* /*event*/)
     painter.setRenderHint(QPainter::Antialiasing);
     paintbody(painter);
     paintcaption(painter);
+    if (showsfocus())
+        paintfocus(painter, look, rect(), kind == Kind::white ? 4 : 3);
 }
 
 void PianoKey::paintbody(QPainter& painter) const
 {
     const double line = look.zoom();
     const bool white = kind == Kind::white;
-    const QRectF box = white ? QRectF(rect()).adjusted(line / 2, -line, -line / 2, -line / 2)
-                             : QRectF(rect()).adjusted(line / 2, -line, -line / 2, -line / 2);
+    const QRectF box = QRectF(rect()).adjusted(line / 2, -line, -line / 2, -line / 2);
     const QPainterPath shape = keyshape(box, (white ? 4 : 3) * look.zoom());
     painter.fillPath(shape, tocolour(back));
 
@@ -80,7 +70,7 @@ void PianoKey::paintbody(QPainter& painter) const
 void PianoKey::paintcaption(QPainter& painter) const
 {
     const Type type = kind == Kind::black || ismark(back) ? Type::mark : Type::text;
-    const QFont font = fitted(look.font(type), QStringLiteral("G#"), width() - look.zoom()); // one size on all keys
+    const QFont font = fitted(look.font(type), widestname(), width() - look.zoom());
     const double lineheight = 13 * look.zoom();
     const QStringList names = text().split(QLatin1Char(' '));
     double top =

@@ -17,6 +17,7 @@ QWidget* ownerof(const QPointer<QWidget>& mainscreen)
 
 void QtDesktop::tell(Icon icon, const std::string& text)
 {
+    showall();
     QMessageBox box(icon == Icon::critical ? QMessageBox::Critical : QMessageBox::Information,
                     QApplication::applicationDisplayName(), QString::fromStdString(text), QMessageBox::Ok,
                     ownerof(mainscreen));
@@ -26,6 +27,7 @@ void QtDesktop::tell(Icon icon, const std::string& text)
 
 Answer QtDesktop::ask(const std::string& text, const std::string& title)
 {
+    showall();
     QMessageBox box(QMessageBox::Question,
                     title.empty() ? QApplication::applicationDisplayName() : QString::fromStdString(title),
                     QString::fromStdString(text), QMessageBox::Yes | QMessageBox::No, ownerof(mainscreen));
@@ -38,8 +40,12 @@ Answer QtDesktop::ask(const std::string& text, const std::string& title)
 void QtDesktop::open(Screen screen)
 {
     QPointer<QWidget>& opened = screens[screen];
-    if (!opened)
+    if (!opened || !opened->isVisible()) {
+        if (opened)
+            opened->deleteLater();
         opened = makers.at(screen)(mainscreen);
+    }
+    showall();
     opened->setWindowState(opened->windowState() & ~Qt::WindowMinimized);
     opened->show();
     opened->raise();

@@ -19,8 +19,11 @@ public:
 
     /// The screen over which the others stand and which is left last.
     void setmain(QWidget* screen) { mainscreen = screen; }
-    /// How a screen is made the first time it is opened.
+    /// How a screen is made; it is made anew each time it is opened, to suit the zoom of that moment.
     void add(Screen screen, Maker maker) { makers[screen] = std::move(maker); }
+
+    /// What brings the screens up to date before a person is asked something in the middle of a procedure.
+    void beforeasking(std::function<void()> show) { showall = std::move(show); }
 
     void tell(Icon icon, const std::string& text) override;
     Answer ask(const std::string& text, const std::string& title) override;
@@ -29,6 +32,7 @@ public:
     void leave() override;
 
 private:
+    std::function<void()> showall = [] {};
     QPointer<QWidget> mainscreen;
     std::map<Screen, Maker> makers;
     std::map<Screen, QPointer<QWidget>> screens;

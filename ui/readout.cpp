@@ -33,8 +33,8 @@ void Readout::paintEvent(QPaintEvent* /*event*/)
     if (frame == Frame::none && type != Type::strong)
         ink = theme.label;
     const double margin = (alignment & Qt::AlignLeft) && frame != Frame::none ? 8 * look.zoom() : look.zoom();
-    painttext(painter, QRectF(rect()).adjusted(margin, 0, -look.zoom(), 0), shown, look.font(type), ink,
-              alignment | Qt::AlignVCenter);
+    const QRectF room = QRectF(rect()).adjusted(margin, 0, -look.zoom(), 0);
+    painttext(painter, room, shown, fitted(look.font(type), widest, room.width()), ink, alignment | Qt::AlignVCenter);
 }
 
 } // namespace ui

@@ -24,6 +24,8 @@ public:
 
     QString text() const { return shown; }
     void settext(const QString& text);
+    /// Has every text in the size in which `text` fits, so that neighbours are of one size.
+    void fit(const QString& text) { widest = text; }
 
 protected:
     void paintEvent(QPaintEvent* event) override;
@@ -34,6 +36,7 @@ private:
     Frame frame;
     Qt::Alignment alignment;
     QString shown;
+    QString widest;
 };
 
 } // namespace ui

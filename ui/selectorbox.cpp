@@ -5,6 +5,8 @@
 #include "ui/paint.h"
 
 #include <QAbstractItemView>
+#include <QApplication>
+#include <QKeyEvent>
 #include <QPainter>
 #include <QPainterPath>
 #include <QSignalBlocker>
@@ -39,6 +41,7 @@ void paintchevron(QPainter& painter, const Look& look, const QPointF& middle, co
 SelectorBox::SelectorBox(const Look& shownlook, QWidget* parent) : QComboBox(parent), look(shownlook)
 {
     setFocusPolicy(Qt::TabFocus);
+    setAttribute(Qt::WA_Hover);
     setMaxVisibleItems(20);
     connect(this, &QComboBox::currentIndexChanged, this, &SelectorBox::tellofchange);
     connect(this, &QComboBox::activated, this, &SelectorBox::tellofactivation);
@@ -49,9 +52,10 @@ SelectorBox::SelectorBox(const Look& shownlook, QWidget* parent) : QComboBox(par
 void SelectorBox::tellofchange(int item)
 {
     toldof = item;
+    Q_EMIT picked(item);
+    // Asked for only now: a message box within would have taken it before the activation comes.
     QMetaObject::invokeMethod(
         this, [this] { toldof = -1; }, Qt::QueuedConnection);
-    Q_EMIT picked(item);
 }
 
 void SelectorBox::tellofactivation(int item)
@@ -99,22 +103,36 @@ void SelectorBox::paintEvent(QPaintEvent* /*event*/)
         paintfocus(painter, look, rect(), 5);
 }
 
+void SelectorBox::keyPressEvent(QKeyEvent* event)
+{
+    const bool command = event->modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier);
+    const QString typed = event->text();
+    if (command || typed.isEmpty() || !typed.front().isLetterOrNumber())
+        QComboBox::keyPressEvent(event);
+    else
+        seek(typed);
+}
+
+/// Picks the next item that begins, blanks aside, with what was typed without a pause.
+void SelectorBox::seek(const QString& typed)
+{
+    const bool goeson = sincetyping.isValid() && sincetyping.elapsed() < QApplication::keyboardInputInterval();
+    sought = goeson ? sought + typed : typed;
+    sincetyping.start();
+    const int from = goeson ? qMax(0, currentIndex()) : currentIndex() + 1;
+    for (int step = 0; step < count(); ++step) {
+        const int item = (from + step) % count();
+        if (itemText(item).trimmed().startsWith(sought, Qt::CaseInsensitive)) {
+            setCurrentIndex(item);
+            return;
+        }
+    }
+}
+
 void SelectorBox::focusInEvent(QFocusEvent* event)
 {
     ring = bykeyboard(*event);
     QComboBox::focusInEvent(event);
-}
-
-void SelectorBox::enterEvent(QEnterEvent* event)
-{
-    QComboBox::enterEvent(event);
-    update();
-}
-
-void SelectorBox::leaveEvent(QEvent* event)
-{
-    QComboBox::leaveEvent(event);
-    update();
 }
 
 } // namespace ui

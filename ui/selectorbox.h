@@ -5,6 +5,7 @@
 #include "ui/look.h"
 
 #include <QComboBox>
+#include <QElapsedTimer>
 
 namespace ui {
 
@@ -19,6 +20,8 @@ public:
 
     void display(const QStringList& items, int index, const QString& text);
     QString shownText() const { return shown; }
+    /// Whether the keyboard brought the focus here.
+    bool usedbykeys() const { return ring; }
 
 Q_SIGNALS:
     /// A person picked an item: from the opened list, by wheel or keys, or through assistive technology; once for each
@@ -28,19 +31,21 @@ Q_SIGNALS:
 protected:
     void paintEvent(QPaintEvent* event) override;
     void showPopup() override;
-    void enterEvent(QEnterEvent* event) override;
-    void leaveEvent(QEvent* event) override;
     void focusInEvent(QFocusEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
 
 private:
     void tellofchange(int item);
     void tellofactivation(int item);
+    void seek(const QString& typed);
 
     const Look& look;
     QAbstractItemDelegate* trimmeditems = nullptr;
     QStringList listed;
     QString shown;
-    int toldof = -1;   ///< the item whose change was told of, until its activation comes or cannot come any more
+    int toldof = -1; ///< the item whose change was told of, until its activation comes or cannot come any more
+    QString sought;
+    QElapsedTimer sincetyping;
     bool ring = false; ///< the keyboard brought the focus here
 };
 

@@ -13,6 +13,11 @@ void Stage::act(const std::function<void()>& procedure)
     } catch (const std::exception& failure) {
         desktop.tell(Icon::critical, failure.what());
     }
+    showall();
+}
+
+void Stage::showall() const
+{
     for (const auto& show : shows)
         show();
 }

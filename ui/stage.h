@@ -17,6 +17,9 @@ public:
     /// Runs a procedure to its end. What it throws becomes a critical message, and the program goes on.
     void act(const std::function<void()>& procedure);
 
+    /// Shows the state as it is now.
+    void showall() const;
+
     /// What is to be shown after each procedure.
     void onchange(std::function<void()> show) { shows.push_back(std::move(show)); }
 

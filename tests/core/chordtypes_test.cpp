@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The tonefret developers
 // SPDX-License-Identifier: MIT
+#include "core/chordmatch.h"
 #include "core/chordtypes.h"
 #include "tests/support/names.h"
 

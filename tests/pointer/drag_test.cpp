@@ -19,10 +19,10 @@ protected:
         for (std::size_t place = 0; place < 20; ++place)
             session.customtable.at(place) = {"entry " + std::to_string(place), "03444444"};
         pick(QStringLiteral("mnuarrange"));
-        ASSERT_TRUE(QTest::qWaitForWindowExposed(control(QStringLiteral("arrange"))));
+        ASSERT_TRUE(QTest::qWaitForWindowExposed(companion("arrange")));
     }
 
-    QWidget* box(int place) { return control(member("txtx", place), control(QStringLiteral("arrange"))); }
+    QWidget* box(int place) { return control(member("txtx", place), companion("arrange")); }
     static QPoint middle(const QWidget* shown) { return shown->mapToGlobal(shown->rect().center()); }
 
     void drag(QPoint from, QPoint to)
@@ -50,7 +50,7 @@ TEST_F(Drag, entryOntoAnother_exchangesThem)
 
 TEST_F(Drag, entryOntoFreeSpace_changesNothing)
 {
-    drag(middle(box(1)), middle(control(QStringLiteral("lblx_40"), control(QStringLiteral("arrange")))));
+    drag(middle(box(1)), middle(control(QStringLiteral("lblx_40"), companion("arrange"))));
     EXPECT_FALSE(session.customchanged);
     drag(middle(box(2)), middle(box(3))); // and the next one works
     ASSERT_TRUE(comes([this] { return session.customchanged; }));

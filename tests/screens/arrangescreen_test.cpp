@@ -16,7 +16,7 @@ protected:
         pick(QStringLiteral("mnuarrange"));
     }
 
-    QWidget* screen() { return control(QStringLiteral("arrange")); }
+    QWidget* screen() { return companion("arrange"); }
     QWidget* box(int place) { return control(member("txtx", place), screen()); }
     std::string text(const QString& name) { return str(control(name, screen())->property("text").toString()); }
     void key(int place, Qt::Key pressed) { QTest::keyClick(box(place), pressed); }

@@ -24,7 +24,7 @@ protected:
         pick(QStringLiteral("mnucustom"));
     }
 
-    QWidget* screen() { return control(QStringLiteral("custom")); }
+    QWidget* screen() { return companion("custom"); }
     template <typename Control = QWidget>
     Control* on(const QString& name)
     {
@@ -201,7 +201,7 @@ TEST_F(CustomScreenTest, openedTwice_isTheSameScreen)
 TEST_F(CustomScreenTest, arrangeButton_opensTheArrangeScreen)
 {
     press(QStringLiteral("cmdarrange"));
-    EXPECT_TRUE(control(QStringLiteral("arrange"))->isVisible());
+    EXPECT_TRUE(companion("arrange")->isVisible());
     EXPECT_TRUE(screen()->isVisible());
 }
 

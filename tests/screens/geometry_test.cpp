@@ -4,6 +4,7 @@
 #include "tests/screens/screentest.h"
 #include "ui/canvas.h"
 
+#include <QMenuBar>
 #include <QPalette>
 
 namespace {
@@ -75,6 +76,26 @@ TEST_F(GeometryTest, palette_choosesTheTheme)
     EXPECT_LT(program.look.theme().surface.lightness(), program.look.theme().text.lightness());
     program.mainscreen.setPalette(QPalette(QColor(0xF0, 0xF0, 0xF0)));
     EXPECT_EQ(program.look.theme().surface, light);
+}
+
+TEST_F(GeometryTest, themeOfTheDesktop_isFollowedEachTimeByPaperAndMenus)
+{
+    const QPalette before = QApplication::palette();
+    const auto ground = [this] { return program.mainscreen.grab().toImage().pixelColor(3, 60); };
+    const auto menus = [this] { return program.mainscreen.menuBar()->palette().color(QPalette::Window); };
+    const QColor light = ground();
+    const QColor lightmenus = menus();
+    for (int turn = 0; turn < 2; ++turn) {
+        QApplication::setPalette(QPalette(QColor(0x2D, 0x30, 0x35), QColor(0x20, 0x20, 0x20)));
+        QApplication::processEvents();
+        EXPECT_EQ(ground(), program.look.theme().surface) << turn;
+        EXPECT_LT(ground().lightness(), 80) << turn;
+        EXPECT_LT(menus().lightness(), 80) << turn;
+        QApplication::setPalette(before);
+        QApplication::processEvents();
+        EXPECT_EQ(ground(), light) << turn;
+        EXPECT_EQ(menus(), lightmenus) << turn;
+    }
 }
 
 } // namespace

@@ -96,6 +96,31 @@ TEST_F(MainScreenTest, everyWayOfPicking_actsOnce)
     }
 }
 
+TEST_F(MainScreenTest, typingInTheFamilyList_overlooksBlanksAroundTheNames)
+{
+    auto* list = control<QComboBox>(QStringLiteral("cbotype"));
+    QTest::keyClick(list, Qt::Key_B);
+    EXPECT_EQ(str(list->currentText().trimmed()), "BASS");
+    QTest::keyClick(list, Qt::Key_A);
+    QTest::keyClick(list, Qt::Key_N);
+    EXPECT_EQ(str(list->currentText().trimmed()), "BANJO");
+    EXPECT_EQ(session.cbotuning.items.at(session.cbotuning.index), shown(QStringLiteral("cbotuning"), "currentText"));
+    EXPECT_FALSE(control(QStringLiteral("Text1_12"))->isVisible());
+}
+
+TEST_F(MainScreenTest, pickThatOpensAMessageBox_actsOnce)
+{
+    auto* list = control<ui::SelectorBox>(QStringLiteral("cbopreset"));
+    int picks = 0;
+    QObject::connect(list, &ui::SelectorBox::picked, list, [&picks] {
+        ++picks;
+        QApplication::processEvents(); // what a message box does while it waits
+    });
+    list->setCurrentIndex(4);
+    Q_EMIT list->activated(4);
+    EXPECT_EQ(picks, 1);
+}
+
 TEST_F(MainScreenTest, choiceOfFamily_movesTheFocusToReset)
 {
     QApplication::setActiveWindow(&program.mainscreen);

@@ -27,6 +27,18 @@ TEST_F(NeckTest, cells_standAtTheirColumnsForBothHands)
     }
 }
 
+TEST_F(NeckTest, retunedString_isReadAloudByItsNewName)
+{
+    choose(QStringLiteral("cbotype"), 0);
+    EXPECT_EQ(str(control(QStringLiteral("Text1_23"))->accessibleName()), "E string, fret 3, G");
+    session.retune.row = 5;
+    program.stage.act([&] { session.cmdret_Click(3); });
+    EXPECT_EQ(str(control(QStringLiteral("Text1_5"))->accessibleName()), "D string, open");
+    for (int fret = 1; fret < instruments::fretcount; ++fret)
+        EXPECT_TRUE(control(member("Text1", 5 + 6 * fret))->accessibleName().startsWith(QLatin1String("D string, ")))
+            << fret;
+}
+
 TEST_F(NeckTest, cells_neverTouch)
 {
     for (const int item : {0, 1}) {

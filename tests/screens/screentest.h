@@ -64,6 +64,15 @@ protected:
         return control<Control>(name, &program.mainscreen);
     }
 
+    /// The screen of a name that was opened last.
+    QWidget* companion(const char* name) const
+    {
+        const auto found = program.mainscreen.findChildren<QWidget*>(QString::fromLatin1(name));
+        if (found.isEmpty())
+            throw std::runtime_error(std::string("no screen ") + name);
+        return found.back();
+    }
+
     void click(const QString& name) { QTest::mouseClick(control(name), Qt::LeftButton); }
     void pick(const QString& action) { control<QAction>(action)->trigger(); }
 

@@ -1,0 +1,42 @@
+// SPDX-FileCopyrightText: 2026 The tonefret developers
+// SPDX-License-Identifier: MIT
+#include "ui/notebutton.h"
+
+#include "ui/paint.h"
+
+#include <QKeyEvent>
+
+namespace ui {
+
+NoteButton::NoteButton(const Look& shownlook, core::Colour atrest, QWidget* parent)
+    : QAbstractButton(parent), look(shownlook), back(atrest)
+{
+    setFocusPolicy(Qt::NoFocus);
+    setAttribute(Qt::WA_Hover);
+}
+
+void NoteButton::display(const QString& caption, core::Colour colour)
+{
+    if (text() != caption)
+        setText(caption);
+    if (back == colour)
+        return;
+    back = colour;
+    update();
+}
+
+void NoteButton::focusInEvent(QFocusEvent* event)
+{
+    ring = bykeyboard(*event);
+    QAbstractButton::focusInEvent(event);
+}
+
+void NoteButton::keyPressEvent(QKeyEvent* event)
+{
+    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
+        click();
+    else
+        QAbstractButton::keyPressEvent(event);
+}
+
+} // namespace ui
