@@ -33,7 +33,7 @@ void additem(QMenu* menu, const MenuRow& row, CustomScreen* screen)
     QAction* action = menu->addAction(QString::fromLatin1(row.caption));
     action->setObjectName(QString::fromLatin1(row.name));
     action->setEnabled(row.enabled);
-    if (row.chosen)
+    if (row.chosen != nullptr)
         QObject::connect(action, &QAction::triggered, screen, [screen, told = row.chosen] { (screen->*told)(); });
     else
         QObject::connect(action, &QAction::triggered, screen, &QWidget::close);

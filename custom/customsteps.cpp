@@ -88,7 +88,7 @@ void CustomScreen::addname(QBoxLayout* card)
     fitsize(txtname, {250, 26});
     fit([this] { txtname->setPalette(look.palettefor(look.theme().card)); });
     connect(txtname, &NameBox::clicked, this, [this] { stage.act([this] { form.txtname_Click(); }); });
-    connect(txtname, &QLineEdit::textEdited, this,
+    connect(txtname, &QLineEdit::textChanged, this,
             [this](const QString& typed) { stage.act([&] { form.txtname_Change(typed.toStdString()); }); });
     card->addWidget(txtname, 0, Qt::AlignLeft);
 }

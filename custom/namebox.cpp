@@ -2,29 +2,37 @@
 // SPDX-License-Identifier: MIT
 #include "custom/namebox.h"
 
-#include "custom/editform.h"
-
 #include <QKeyEvent>
 #include <QMouseEvent>
+#include <QSignalBlocker>
 #include <QValidator>
 
 namespace custom {
 namespace {
 
-/// Keeps a name to the characters that can be typed. The box's own limit would count halves of those beyond 16 bits.
+qsizetype lengthof(const QString& text)
+{
+    return text.toUcs4().size();
+}
+
+/// Keeps a name to the characters that can be typed: what does not fit behind them is not entered. The box's own limit
+/// would count halves of the characters beyond 16 bits.
 class NameLength : public QValidator {
 public:
-    using QValidator::QValidator;
+    NameLength(const qsizetype& most, QObject* owner) : QValidator(owner), limit(most) {}
 
     State validate(QString& input, int& position) const override
     {
-        qsizetype end = 0;
-        for (std::size_t count = 0; count < typedlength && end < input.size(); ++count)
-            end += input.at(end).isHighSurrogate() && end + 1 < input.size() ? 2 : 1;
-        input.truncate(end);
-        position = qMin(position, static_cast<int>(end));
+        for (qsizetype excess = lengthof(input) - limit; excess > 0 && position > 0; --excess) {
+            const int units = position > 1 && input.at(position - 1).isLowSurrogate() ? 2 : 1;
+            position -= units;
+            input.remove(position, units);
+        }
         return Acceptable;
     }
+
+private:
+    const qsizetype& limit;
 };
 
 bool changestext(const QKeyEvent& key)
@@ -37,11 +45,13 @@ bool changestext(const QKeyEvent& key)
 
 NameBox::NameBox(QWidget* parent) : QLineEdit(parent)
 {
-    setValidator(new NameLength(this));
+    setValidator(new NameLength(limit, this));
 }
 
 void NameBox::display(const QString& name, bool guarded)
 {
+    const QSignalBlocker untold(this);
+    limit = qMax(static_cast<qsizetype>(typedlength), lengthof(name)); // a file may have longer ones
     if (text() != name)
         setText(name);
     setReadOnly(guarded);

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "custom/editform.h"
+
 #include <QLineEdit>
 
 namespace custom {
@@ -22,6 +24,9 @@ Q_SIGNALS:
 protected:
     void mouseReleaseEvent(QMouseEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
+
+private:
+    qsizetype limit = typedlength; ///< characters of the name, at most
 };
 
 } // namespace custom

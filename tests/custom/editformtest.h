@@ -46,7 +46,7 @@ protected:
             line += (box == 0 ? "" : " ") + (form.txtnote.at(box).empty() ? "-" : form.txtnote.at(box));
         return line;
     }
-    void expecttold(std::vector<Told> messages)
+    void expecttold(const std::vector<Told>& messages)
     {
         EXPECT_EQ(desktop.told, messages);
         desktop.told.clear();

@@ -141,10 +141,10 @@ protected:
     std::string spoken()
     {
         std::string all;
+        for (const tests::Asked& asked : s.desktop.asked) // a question comes before what follows from its answer
+            all += "question: " + asked.text;
         for (const tests::Told& told : s.desktop.told)
             all += (told.icon == ui::Icon::critical ? "critical: " : "information: ") + told.text;
-        for (const tests::Asked& asked : s.desktop.asked)
-            all = "question: " + asked.text + all; // a question comes before what follows from its answer
         s.desktop.told.clear();
         s.desktop.asked.clear();
         return all;
@@ -202,7 +202,8 @@ TEST_P(EditWalk, everyAct_leavesWhatTheModelShows)
     std::string past;
     for (int i = 0; i < steps; ++i) {
         const std::string act = step();
-        past = (past.size() > 600 ? past.substr(past.size() - 600) : past) + act + "\n";
+        past.append(act).append("\n");
+        past.erase(0, past.size() - std::min<std::size_t>(past.size(), 600));
         ASSERT_EQ(shown(s.session), shown(model)) << "step " << i << " after\n" << past;
         ASSERT_EQ(spoken(), modelspoken()) << "step " << i << " after\n" << past;
     }

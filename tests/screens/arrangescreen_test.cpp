@@ -144,7 +144,7 @@ TEST_F(ArrangeScreenTest, everyWayOut_rebuildsTheTunings)
     for (const auto& leave : ways) {
         open(3);
         session.txtx_DragDrop(0, 2);
-        QPointer<QWidget> left = screen();
+        const QPointer<QWidget> left = screen();
         leave();
         EXPECT_TRUE(!left || !left->isVisible());
         EXPECT_FALSE(session.arrangeshown);
