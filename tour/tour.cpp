@@ -20,7 +20,7 @@ namespace {
 /// A person's hands on one program.
 class Walker {
 public:
-    explicit Walker(app::Program& walked, QDir kept) : program(walked), folder(std::move(kept)) {}
+    explicit Walker(app::Program& walked, const QDir& kept) : program(walked), folder(kept) {}
 
     void click(const char* name) const
     {
