@@ -76,7 +76,7 @@ QAction* additem(QMenu& menu, const MenuRow& row, Session& session, ui::Stage& s
     action->setSeparator(row.kind == Kind::separator);
     action->setCheckable(row.kind == Kind::check);
     action->setChecked(row.checked);
-    action->setEnabled(row.handler || action->isSeparator());
+    action->setEnabled(row.handler != nullptr || action->isSeparator());
     if (row.handler)
         QObject::connect(action, &QAction::triggered, action,
                          [&session, &stage, handler = row.handler] { stage.act([&] { (session.*handler)(); }); });
