@@ -23,11 +23,15 @@ public:
     void add(Screen screen, Maker maker) { makers[screen] = std::move(maker); }
 
     void tell(Icon icon, const std::string& text) override;
+    Answer ask(const std::string& text, const std::string& title) override;
+    std::optional<std::filesystem::path> pickfile(Direction direction, std::span<const FileFilter> filters) override;
     void open(Screen screen) override;
     void close(Screen screen) override;
     void leave() override;
 
 private:
+    QWidget* owner() const;
+
     QPointer<QWidget> mainscreen;
     std::map<Screen, Maker> makers;
     std::map<Screen, QPointer<QWidget>> screens;
