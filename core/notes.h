@@ -30,8 +30,8 @@ enum class SpellingMode : std::uint8_t {
 /// Numbers stay as they are when a setting changes; only their names do.
 struct NoteSpelling {
     SpellingMode mode = SpellingMode::mostlyflats;
-    Flag automatic; ///< the current chord chooses the mode
-    Flag both;      ///< the piano's black keys show both their names, whatever the mode
+    Flag automatic = false; ///< the current chord chooses the mode
+    Flag both = false;      ///< the piano's black keys show both their names, whatever the mode
 
     /// Names note `n` in the current mode: "C", "Db", " " for `nonote`.
     /// Rewrites `n`: above 24 or below 0 it is folded by octaves into 0..24; callers read it back.

@@ -6,6 +6,7 @@
 #include <array>
 #include <cerrno>
 #include <cstdio>
+#include <optional>
 
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -160,12 +161,17 @@ void settle(const fs::path& folder)
         ::fsync(opened.get());
 }
 
-/// A name beside the file that no other process uses.
-fs::path besidename(const fs::path& file)
+/// A new file beside an old one. What a process that was killed has left behind keeps its name.
+std::error_code makebeside(const fs::path& file, std::optional<NewFile>& fresh)
 {
-    fs::path name = file;
-    name += ".new-" + std::to_string(::getpid());
-    return name;
+    constexpr int mostnames = 10'000;
+    for (int number = 1; number < mostnames; ++number) {
+        fs::path name = file;
+        fresh.emplace(name += ".new-" + std::to_string(number));
+        if (fresh->failure() != std::errc::file_exists)
+            break;
+    }
+    return fresh->failure();
 }
 
 } // namespace
@@ -200,14 +206,14 @@ std::error_code replacetext(const fs::path& file, std::string_view bytes)
         if (::access(target.c_str(), W_OK) != 0)
             return lastfailure();
     }
-    NewFile fresh(besidename(target));
-    auto failure = fresh.failure();
+    std::optional<NewFile> fresh;
+    auto failure = makebeside(target, fresh);
     if (!failure && exists)
-        failure = fresh.dressas(old);
+        failure = fresh->dressas(old);
     if (!failure)
-        failure = fresh.fill(bytes);
+        failure = fresh->fill(bytes);
     if (!failure)
-        failure = fresh.moveto(target);
+        failure = fresh->moveto(target);
     if (!failure)
         settle(target.parent_path());
     return failure;
