@@ -176,7 +176,7 @@ std::string randomname(std::mt19937& random)
 {
     static constexpr std::array letters{"a", "Z", " ", ":", "\n", "\r", "\xC3\xA9", "\xE2\x99\xAD", "\xF0\x9F\x8E\xB8"};
     std::string name;
-    for (unsigned length = 1 + random() % 25; length > 0; --length)
+    for (auto length = 1 + random() % 25; length > 0; --length)
         name += letters.at(random() % letters.size());
     return name;
 }
