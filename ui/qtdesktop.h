@@ -33,6 +33,7 @@ private:
     QWidget* owner() const;
 
     QPointer<QWidget> mainscreen;
+    QString pickfolder; ///< where a file was picked last; empty: nowhere yet
     std::map<Screen, Maker> makers;
     std::map<Screen, QPointer<QWidget>> screens;
 };
