@@ -55,6 +55,8 @@ QWidget* Program::makecustom(QWidget* owner)
                          [this, procedure] { stage.act([&] { (session.*procedure)(); }); });
     };
     join(&CustomScreen::closed, &Session::customexit);
+    join(&CustomScreen::mnuload_Click, &Session::mnuload_Click);
+    join(&CustomScreen::mnusave_Click, &Session::mnusave_Click);
     join(&CustomScreen::cmdsettings_Click, &Session::cmdsettings_Click);
     join(&CustomScreen::cmdarrange_Click, &Session::mnuarrange_Click);
     return customscreen;

@@ -19,8 +19,8 @@ struct MenuRow {
 // clang-format off
 constexpr MenuRow fileitems[] = {
 //  name               caption               tells of                               enabled
-  { "mnuload",         "Load Custom File",   &CustomScreen::mnuload_Click,          false },
-  { "mnusave",         "Save Custom File",   &CustomScreen::mnusave_Click,          false },
+  { "mnuload",         "Load Custom File",   &CustomScreen::mnuload_Click,          true  },
+  { "mnusave",         "Save Custom File",   &CustomScreen::mnusave_Click,          true  },
   { "mnuexit",         "Exit",               nullptr,                               true  },
 };
 constexpr MenuRow helpitems[] = {

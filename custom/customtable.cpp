@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "custom/customtable.h"
 
+#include "core/textcode.h"
+
 #include <algorithm>
 
 namespace custom {
@@ -9,12 +11,6 @@ namespace {
 
 constexpr std::string_view digits{"0123456789AB"};
 constexpr char unused = '?';
-
-/// Whether a byte goes on with the UTF-8 character that an earlier one began.
-bool goeson(char byte)
-{
-    return (static_cast<unsigned char>(byte) & 0xC0U) == 0x80U;
-}
 
 } // namespace
 
@@ -24,6 +20,12 @@ std::optional<std::size_t> findentry(const CustomTable& table, std::string_view 
     if (found == table.end())
         return std::nullopt;
     return static_cast<std::size_t>(found - table.begin());
+}
+
+void datablankelim(CustomTable& table)
+{
+    const auto free = std::ranges::stable_partition(table, [](const Entry& entry) { return !entry.name.empty(); });
+    std::ranges::fill(free, Entry{});
 }
 
 std::string getnotename(char digit, const core::NoteSpelling& spelling)
@@ -44,17 +46,9 @@ char getnotedata(std::string_view name)
 
 char dataat(const Entry& entry, std::size_t position)
 {
-    for (const char byte : entry.data)
-        if (!goeson(byte) && position-- == 0)
-            return static_cast<unsigned char>(byte) < 0x80U ? byte : unused;
-    return unused;
-}
-
-void datablankelim(CustomTable& table)
-{
-    auto* const end =
-        std::stable_partition(table.begin(), table.end(), [](const Entry& entry) { return !entry.name.empty(); });
-    std::fill(end, table.end(), Entry{});
+    const std::size_t at = core::skipcharacters(entry.data, 0, position);
+    const bool ascii = at < entry.data.size() && static_cast<unsigned char>(entry.data[at]) < 0x80U;
+    return ascii ? entry.data[at] : unused;
 }
 
 std::size_t indexnew(const CustomTable& table)

@@ -2,18 +2,14 @@
 // SPDX-License-Identifier: MIT
 #include "custom/editform.h"
 
+#include "core/textcode.h"
+
 #include <algorithm>
 
 namespace custom {
 namespace {
 
 constexpr core::PitchClass lastselectable = 12;
-
-std::size_t charactercount(std::string_view text)
-{
-    return static_cast<std::size_t>(
-        std::ranges::count_if(text, [](char byte) { return (static_cast<unsigned char>(byte) & 0xC0U) != 0x80U; }));
-}
 
 std::size_t boxcount(instruments::StringLayout choice)
 {
@@ -170,7 +166,7 @@ std::string_view EditForm::objection() const
     if (std::any_of(txtnote.begin(), txtnote.begin() + static_cast<std::ptrdiff_t>(boxcount(Option2)),
                     [](const std::string& name) { return name.empty(); }))
         return "You need to enter note names\n as requested as item 5";
-    if (charactercount(txtname) > longestname)
+    if (core::charactercount(txtname) > longestname)
         return "Please reduce name size (item 2)\nTo less than 25 characters.  Thanks";
     if (txtname.find(';') != std::string::npos)
         return "Please remove semicolon(s) ';' from name (item 2)\nThey are needed for control characters.  Thanks";

@@ -64,8 +64,8 @@ void MainScreen::addnotekeys()
     const auto play = [this](int k) { return [this, k] { stage.act([this, k] { session.key_Click(k); }); }; };
     for (int k = 0; k < core::octave; ++k) {
         const std::string_view name = core::sharpnames.at(static_cast<std::size_t>(k));
-        const int letter = Qt::Key_A + (name.front() - 'A');
-        onkeys(QKeySequence(core::isblack(k) ? letter | Qt::SHIFT : letter), play(k));
+        const auto letter = static_cast<Qt::Key>(Qt::Key_A + (name.front() - 'A'));
+        onkeys(QKeyCombination(core::isblack(k) ? Qt::ShiftModifier : Qt::NoModifier, letter), play(k));
     }
     onkeys(Qt::Key_Escape, play(resetkey));
 }

@@ -32,8 +32,8 @@ struct MenuRow {
 constexpr auto rows = std::to_array<MenuRow>({
 //  kind             name             caption                                        handler                   check mark
   { Kind::menu,      "mnufile",       "File" },
-  { Kind::item,      "mnuload",       "Load Custom Settings" },
-  { Kind::item,      "mnusave",       "Save Custom Settings" },
+  { Kind::item,      "mnuload",       "Load Custom Settings",                        &Session::mnuload_Click },
+  { Kind::item,      "mnusave",       "Save Custom Settings",                        &Session::mnusave_Click },
   { Kind::item,      "mnuexit",       "Exit (Quit Program)",                         &Session::tonefretexit },
   { Kind::menu,      "mnuedit",       "Edit and Custom" },
   { Kind::item,      "mnucustom",     "Edit Custom Settings",                        &Session::mnucustom_Click },
@@ -76,7 +76,7 @@ QAction* additem(QMenu& menu, const MenuRow& row, Session& session, ui::Stage& s
     action->setSeparator(row.kind == Kind::separator);
     action->setCheckable(row.kind == Kind::check);
     action->setChecked(row.checked);
-    action->setEnabled(row.handler || action->isSeparator());
+    action->setEnabled(row.handler != nullptr || action->isSeparator());
     if (row.handler)
         QObject::connect(action, &QAction::triggered, action,
                          [&session, &stage, handler = row.handler] { stage.act([&] { (session.*handler)(); }); });

@@ -11,15 +11,20 @@
 namespace ui {
 
 Button::Button(const Look& shownlook, const QString& caption, QWidget* parent, Shape drawn)
-    : QPushButton(caption, parent), look(shownlook), shape(drawn)
+    : Button(shownlook, caption, parent, drawn, Qt::NoArrow)
+{
+}
+
+Button::Button(const Look& shownlook, Qt::ArrowType pointing, QWidget* parent)
+    : Button(shownlook, QString(), parent, Shape::box, pointing)
+{
+}
+
+Button::Button(const Look& shownlook, const QString& caption, QWidget* parent, Shape drawn, Qt::ArrowType pointing)
+    : QPushButton(caption, parent), look(shownlook), shape(drawn), arrow(pointing)
 {
     setFocusPolicy(Qt::TabFocus);
     setAttribute(Qt::WA_Hover);
-}
-
-Button::Button(const Look& shownlook, Qt::ArrowType pointing, QWidget* parent) : Button(shownlook, QString(), parent)
-{
-    arrow = pointing;
 }
 
 void Button::setchosen(bool chosen)

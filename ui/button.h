@@ -38,12 +38,14 @@ protected:
     void focusInEvent(QFocusEvent* event) override;
 
 private:
+    Button(const Look& shownlook, const QString& caption, QWidget* parent, Shape drawn, Qt::ArrowType pointing);
+
     QColor face() const;
     QColor ink() const;
 
     const Look& look;
     Shape shape;
-    Qt::ArrowType arrow = Qt::NoArrow;
+    Qt::ArrowType arrow;
     bool chosenface = false;
     QColor back;
     bool ring = false; ///< the keyboard brought the focus here

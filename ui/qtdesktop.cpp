@@ -3,24 +3,34 @@
 #include "ui/qtdesktop.h"
 
 #include <QApplication>
+#include <QDir>
+#include <QFile>
+#include <QFileDialog>
 #include <QMessageBox>
 
 namespace ui {
 namespace {
 
-QWidget* ownerof(const QPointer<QWidget>& mainscreen)
+/// A filter in the dialog's own form: what is shown, then what it lists.
+QString dialogfilter(const FileFilter& filter)
 {
-    return QApplication::activeWindow() ? QApplication::activeWindow() : mainscreen.data();
+    const QString pattern = QString::fromLatin1(filter.pattern);
+    const QString lists = pattern == QLatin1String("*.*") ? QStringLiteral("*") : pattern;
+    return QStringLiteral("%1 (%2)").arg(QString::fromLatin1(filter.name), lists);
 }
 
 } // namespace
+
+QWidget* QtDesktop::owner() const
+{
+    return QApplication::activeWindow() ? QApplication::activeWindow() : mainscreen.data();
+}
 
 void QtDesktop::tell(Icon icon, const std::string& text)
 {
     showall();
     QMessageBox box(icon == Icon::critical ? QMessageBox::Critical : QMessageBox::Information,
-                    QApplication::applicationDisplayName(), QString::fromStdString(text), QMessageBox::Ok,
-                    ownerof(mainscreen));
+                    QApplication::applicationDisplayName(), QString::fromStdString(text), QMessageBox::Ok, owner());
     box.setTextFormat(Qt::PlainText);
     box.exec();
 }
@@ -30,11 +40,29 @@ Answer QtDesktop::ask(const std::string& text, const std::string& title)
     showall();
     QMessageBox box(QMessageBox::Question,
                     title.empty() ? QApplication::applicationDisplayName() : QString::fromStdString(title),
-                    QString::fromStdString(text), QMessageBox::Yes | QMessageBox::No, ownerof(mainscreen));
+                    QString::fromStdString(text), QMessageBox::Yes | QMessageBox::No, owner());
     box.setTextFormat(Qt::PlainText);
     box.setDefaultButton(QMessageBox::No);
     box.setEscapeButton(QMessageBox::No);
     return box.exec() == QMessageBox::Yes ? Answer::yes : Answer::no;
+}
+
+std::optional<std::filesystem::path> QtDesktop::pickfile(Direction direction, std::span<const FileFilter> filters)
+{
+    showall();
+    QFileDialog dialog(owner(), QString(), pickfolder.isEmpty() ? QDir::currentPath() : pickfolder);
+    dialog.setAcceptMode(direction == Direction::open ? QFileDialog::AcceptOpen : QFileDialog::AcceptSave);
+    dialog.setFileMode(direction == Direction::open ? QFileDialog::ExistingFile : QFileDialog::AnyFile);
+    dialog.setOption(QFileDialog::DontConfirmOverwrite);
+    dialog.setOption(QFileDialog::HideNameFilterDetails);
+    QStringList choices;
+    for (const FileFilter& filter : filters)
+        choices << dialogfilter(filter);
+    dialog.setNameFilters(choices);
+    if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty())
+        return std::nullopt;
+    pickfolder = dialog.directory().path();
+    return QFile::encodeName(dialog.selectedFiles().constFirst()).toStdString();
 }
 
 void QtDesktop::open(Screen screen)

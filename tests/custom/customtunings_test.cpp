@@ -32,7 +32,7 @@ class CustomTuning : public testing::TestWithParam<DataRow> {};
 TEST_P(CustomTuning, picked_isAppliedToTheBoard)
 {
     const DataRow& row = GetParam();
-    WithEntries s({{"mine", row.data}});
+    const WithEntries s({{"mine", row.data}});
     EXPECT_EQ(s.session.cbotuning.text, "mine");
     EXPECT_EQ(s.session.cboleft.text, row.hand) << row.data;
     EXPECT_EQ(s.session.cboleft.index, row.hand == std::string("Left Hand") ? 1 : 0) << row.data;
@@ -64,7 +64,7 @@ INSTANTIATE_TEST_SUITE_P(Data, CustomTuning, testing::Values(
 
 TEST(CustomTuning, everyRow_isFilledFromItsOpenNote)
 {
-    WithEntries s({{"mine", "0149279?"}});
+    const WithEntries s({{"mine", "0149279?"}});
     EXPECT_EQ(s.rowtext(5), "E F Gb G Ab A Bb B C Db D Eb E F Gb G Ab A Bb B");
     EXPECT_EQ(s.rowtext(1), "A Bb B C Db D Eb E F Gb G Ab A Bb B C Db D Eb E"); // hidden, but filled
     EXPECT_EQ(s.rowtext(0), "? ? ? ? ? ? ? ? ? ? ? ? ? ? ? ? ? ? ? ?");
@@ -72,7 +72,7 @@ TEST(CustomTuning, everyRow_isFilledFromItsOpenNote)
 
 TEST(CustomTuning, banjo_hasAShortFifthString)
 {
-    WithEntries s({{"mine", "0072720?"}});
+    const WithEntries s({{"mine", "0072720?"}});
     EXPECT_EQ(s.rowtext(5), "G G G G G G Ab A Bb B C Db D Eb E F Gb G Ab A");
     EXPECT_FALSE(s.cell(5, 5).visible);
     EXPECT_TRUE(s.cell(5, 6).visible);

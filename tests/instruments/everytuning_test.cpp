@@ -156,7 +156,7 @@ TEST(EveryTuning, eitherHandAndEveryCapo_marksTheChord)
             pick(s, tuning);
             s.session.cboleft_Click(hand);
             const Courses courses = coursesof(tuning);
-            std::vector<int> notes = tests::pitches(s.notes());
+            const std::vector<int> notes = tests::pitches(s.notes());
             for (int choice = 0; choice <= showall; ++choice) {
                 s.session.cbopreset_Click(choice);
                 ASSERT_EQ(s.session.capomarker.barvisible, choice > 0 && choice < showall);

@@ -66,7 +66,7 @@ std::string above(int root, int semitones, int mode)
 
 std::string alternatetext(const ButtonRow& row, int root, int mode)
 {
-    const std::string text = row.alternate;
+    std::string text = row.alternate;
     if (text == "dim")
         return ", " + above(root, 6, mode) + ", & " + above(root, 9, mode) + " dim.";
     if (text == "aug")

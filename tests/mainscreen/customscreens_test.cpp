@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The tonefret developers
 // SPDX-License-Identifier: MIT
+#include "tests/support/directory.h"
 #include "tests/support/started.h"
 
 #include <gtest/gtest.h>
@@ -98,6 +99,22 @@ TEST(CustomScreen, savedEntry_isListedAfterClosing)
     EXPECT_EQ(s.session.cbotuning.text, "one");
     s.picktuning("four");
     EXPECT_EQ(s.opennotes(), "C C C C C C");
+}
+
+TEST(CustomScreen, loadWhileOpen_showsTheFirstFreePlace)
+{
+    const tests::Directory folder;
+    WithEntries s;
+    s.session.mnucustom_Click();
+    s.desktop.files = {folder.path / "kept.txt"};
+    s.session.mnusave_Click();
+    s.session.customtable[2] = {};
+    s.session.editform.cmddown_Click();
+    s.desktop.files = {folder.path / "kept.txt"};
+    s.session.mnuload_Click();
+    EXPECT_EQ(s.names(), "one two three");
+    EXPECT_EQ(s.session.editform.txtnum(), " 3");
+    EXPECT_EQ(s.session.editform.txtinfo, "- blank -");
 }
 
 TEST(CustomScreen, closedTwice_closesOnce)

@@ -84,7 +84,7 @@ TEST(KeyUpdate, notes_areMarkedInBothOctaves)
         for (mainscreen::Key& key : keyboard.key)
             key.back = core::darkgrey; // what was marked before is not any more
         keyboard.keyupdate(row.notes);
-        std::string shown = row.notes.empty() ? "" : row.notes.front();
+        const std::string shown = row.notes.empty() ? "" : row.notes.front();
         EXPECT_EQ(colours(keyboard), row.colours) << shown << " in mode " << row.mode << (row.both ? ", both" : "");
         EXPECT_EQ(keyboard.key[25].back, core::darkgrey);
     }

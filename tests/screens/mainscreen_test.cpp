@@ -104,7 +104,8 @@ TEST_F(MainScreenTest, typingInTheFamilyList_overlooksBlanksAroundTheNames)
     QTest::keyClick(list, Qt::Key_A);
     QTest::keyClick(list, Qt::Key_N);
     EXPECT_EQ(str(list->currentText().trimmed()), "BANJO");
-    EXPECT_EQ(session.cbotuning.items.at(session.cbotuning.index), shown(QStringLiteral("cbotuning"), "currentText"));
+    EXPECT_EQ(session.cbotuning.items.at(static_cast<std::size_t>(session.cbotuning.index)),
+              shown(QStringLiteral("cbotuning"), "currentText"));
     EXPECT_FALSE(control(QStringLiteral("Text1_12"))->isVisible());
 }
 

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "app/program.h"
+#include "tests/support/directory.h"
 #include "tests/support/recordingdesktop.h"
 
 #include <QAction>
@@ -20,6 +21,7 @@ namespace tests {
 class QuietDesktop : public ui::QtDesktop {
 public:
     std::vector<Told> told;
+    std::deque<std::filesystem::path> files; ///< to be picked; none left: cancelled
 
     std::vector<Asked> asked;
     std::deque<ui::Answer> answers; ///< to the next questions
@@ -33,6 +35,15 @@ public:
         const ui::Answer answer = answers.front();
         answers.pop_front();
         return answer;
+    }
+    std::optional<std::filesystem::path> pickfile(ui::Direction /*direction*/,
+                                                  std::span<const ui::FileFilter> /*filters*/) override
+    {
+        if (files.empty())
+            return std::nullopt;
+        auto picked = files.front();
+        files.pop_front();
+        return picked;
     }
 };
 
@@ -93,6 +104,7 @@ protected:
         return str(control(name)->property("backColor").value<QColor>().name());
     }
 
+    Directory directory; ///< what is saved, is saved here
     QuietDesktop desktop;
     app::Program program{desktop};
     mainscreen::Session& session = program.session;

@@ -2,9 +2,20 @@
 // SPDX-License-Identifier: MIT
 #include "tests/support/recordingdesktop.h"
 
-#include <stdexcept>
-
 namespace tests {
+namespace {
+
+template <typename T>
+std::optional<T> taken(std::deque<T>& queue)
+{
+    if (queue.empty())
+        return std::nullopt;
+    T first = std::move(queue.front());
+    queue.pop_front();
+    return first;
+}
+
+} // namespace
 
 void RecordingDesktop::tell(ui::Icon icon, const std::string& text)
 {
@@ -14,11 +25,16 @@ void RecordingDesktop::tell(ui::Icon icon, const std::string& text)
 ui::Answer RecordingDesktop::ask(const std::string& text, const std::string& title)
 {
     asked.push_back({text, title});
-    if (answers.empty())
-        throw std::logic_error("no answer to: " + text);
-    const ui::Answer answer = answers.front();
-    answers.pop_front();
-    return answer;
+    return taken(answers).value_or(ui::Answer::no);
+}
+
+std::optional<std::filesystem::path> RecordingDesktop::pickfile(ui::Direction direction,
+                                                                std::span<const ui::FileFilter> filters)
+{
+    PickAsked& asking = pickasked.emplace_back(PickAsked{direction, {}});
+    for (const ui::FileFilter& filter : filters)
+        asking.filters.push_back(std::string(filter.name) + "|" + filter.pattern);
+    return taken(files);
 }
 
 void RecordingDesktop::open(ui::Screen screen)
