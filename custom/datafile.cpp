@@ -57,13 +57,14 @@ private:
 /// Returns false at a fault.
 bool readheaders(Reader& reader, std::optional<Header>& header)
 {
-    while (!header || header->name.empty()) {
+    for (bool nameless = true; nameless;) {
         const auto name = reader.field();
         if (!name)
             return true;
         auto data = reader.data(settingslength);
         if (!data)
             return false;
+        nameless = name->empty();
         header = Header{std::string(*name), std::move(*data)};
     }
     return true;
