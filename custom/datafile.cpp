@@ -57,15 +57,16 @@ private:
 /// Returns false at a fault.
 bool readheaders(Reader& reader, std::optional<Header>& header)
 {
-    for (bool nameless = true; nameless;) {
-        const auto name = reader.field();
-        if (!name)
+    std::string name;
+    while (name.empty()) {
+        const auto field = reader.field();
+        if (!field)
             return true;
-        auto data = reader.data(settingslength);
-        if (!data)
+        name = *field;
+        if (auto data = reader.data(settingslength))
+            header = Header{name, std::move(*data)};
+        else
             return false;
-        nameless = name->empty();
-        header = Header{std::string(*name), std::move(*data)};
     }
     return true;
 }
@@ -74,11 +75,12 @@ bool readheaders(Reader& reader, std::optional<Header>& header)
 bool readentries(Reader& reader, CustomTable& entries)
 {
     std::size_t count = 0;
-    while (const auto name = reader.field()) {
-        auto data = count < entries.size() ? reader.data(datalength) : std::nullopt;
-        if (!data)
+    while (const auto field = reader.field()) {
+        std::string name(*field);
+        auto data = reader.data(datalength);
+        if (count == entries.size() || !data)
             return false;
-        entries.at(count++) = {std::string(*name), std::move(*data)};
+        entries.at(count++) = {std::move(name), std::move(*data)};
     }
     return true;
 }
