@@ -74,15 +74,15 @@ bool readheaders(Reader& reader, std::optional<Header>& header)
 /// Returns false at a fault, a table that is full among them.
 bool readentries(Reader& reader, CustomTable& entries)
 {
-    std::size_t count = 0;
-    while (const auto field = reader.field()) {
-        std::string name(*field);
+    for (std::size_t count = 0;; ++count) {
+        const auto name = reader.field();
+        if (!name)
+            return true;
         auto data = reader.data(datalength);
         if (count == entries.size() || !data)
             return false;
-        entries.at(count++) = {std::move(name), std::move(*data)};
+        entries.at(count) = {std::string(*name), std::move(*data)};
     }
-    return true;
 }
 
 bool isnameless(const Entry& entry)
