@@ -6,7 +6,7 @@
 #include <array>
 #include <cerrno>
 #include <cstdio>
-#include <optional>
+#include <memory>
 
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -162,16 +162,15 @@ void settle(const fs::path& folder)
 }
 
 /// A new file beside an old one. What a process that was killed has left behind keeps its name.
-std::error_code makebeside(const fs::path& file, std::optional<NewFile>& fresh)
+std::unique_ptr<NewFile> makebeside(const fs::path& file)
 {
     constexpr int mostnames = 10'000;
-    for (int number = 1; number < mostnames; ++number) {
+    for (int number = 1;; ++number) {
         fs::path name = file;
-        fresh.emplace(name += ".new-" + std::to_string(number));
-        if (fresh->failure() != std::errc::file_exists)
-            break;
+        auto fresh = std::make_unique<NewFile>(name += ".new-" + std::to_string(number));
+        if (fresh->failure() != std::errc::file_exists || number == mostnames)
+            return fresh;
     }
-    return fresh->failure();
 }
 
 } // namespace
@@ -208,8 +207,8 @@ std::error_code replacetext(const fs::path& file, std::string_view bytes)
         if (::access(target.c_str(), W_OK) != 0)
             return lastfailure();
     }
-    std::optional<NewFile> fresh;
-    auto failure = makebeside(target, fresh);
+    const auto fresh = makebeside(target);
+    auto failure = fresh->failure();
     if (!failure && exists)
         failure = fresh->dressas(old);
     if (!failure)

@@ -57,14 +57,16 @@ private:
 /// Returns false at a fault.
 bool readheaders(Reader& reader, std::optional<Header>& header)
 {
-    while (!header || header->name.empty()) {
-        const auto name = reader.field();
-        if (!name)
+    std::string name;
+    while (name.empty()) {
+        const auto field = reader.field();
+        if (!field)
             return true;
-        auto data = reader.data(settingslength);
-        if (!data)
+        name = *field;
+        if (auto data = reader.data(settingslength))
+            header = Header{name, std::move(*data)};
+        else
             return false;
-        header = Header{std::string(*name), std::move(*data)};
     }
     return true;
 }
@@ -72,14 +74,15 @@ bool readheaders(Reader& reader, std::optional<Header>& header)
 /// Returns false at a fault, a table that is full among them.
 bool readentries(Reader& reader, CustomTable& entries)
 {
-    std::size_t count = 0;
-    while (const auto name = reader.field()) {
-        auto data = count < entries.size() ? reader.data(datalength) : std::nullopt;
-        if (!data)
+    for (std::size_t count = 0;; ++count) {
+        const auto name = reader.field();
+        if (!name)
+            return true;
+        auto data = reader.data(datalength);
+        if (count == entries.size() || !data)
             return false;
-        entries.at(count++) = {std::string(*name), std::move(*data)};
+        entries.at(count) = {std::string(*name), std::move(*data)};
     }
-    return true;
 }
 
 bool isnameless(const Entry& entry)

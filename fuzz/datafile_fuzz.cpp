@@ -51,7 +51,7 @@ void expectagain(custom::Unpacked read)
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t size)
 {
-    const std::string text = core::decode({reinterpret_cast<const char*>(bytes), size}); // NOLINT(*-reinterpret-cast)
+    const std::string text = core::decode({reinterpret_cast<const char*>(bytes), size});
     custom::Unpacked read = custom::unpack(text);
     expect((read.reading == custom::Reading::foreign) == !custom::issigned(text));
     expectwhole(read);
