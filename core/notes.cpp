@@ -38,7 +38,8 @@ constexpr std::array<Names, 4> spellings = [] {
 
 std::string_view spelled(SpellingMode mode, PitchClass pitch)
 {
-    return spellings.at(static_cast<std::size_t>(mode))[static_cast<std::size_t>(pitch % octave)];
+    const SpellingMode known = mode > SpellingMode::mostlysharps ? SpellingMode::mix2 : mode;
+    return spellings.at(static_cast<std::size_t>(known))[static_cast<std::size_t>(pitch % octave)];
 }
 
 /// Pitch of a name as it is written on the screen, capital first.

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "core/flag.h"
+
 #include <array>
 #include <cstdint>
 #include <string>
@@ -16,7 +18,8 @@ inline constexpr int octave = 12;             ///< semitones
 inline constexpr PitchClass nonote = 99;      ///< an empty slot; named " "
 inline constexpr std::string_view blank{" "}; ///< what a readout without a note or a chord shows
 
-/// Which name each of the five black keys gets. The numbers are kept in the data file.
+/// Which name each of the five black keys gets. The numbers are kept in the data file; a higher one, from a file that
+/// was edited, gives the names of the second mix.
 enum class SpellingMode : std::uint8_t {
     mostlyflats = 0,  ///< Db Eb Gb Ab Bb
     mix1 = 1,         ///< C# Eb F# Ab Bb
@@ -28,8 +31,8 @@ enum class SpellingMode : std::uint8_t {
 /// Numbers stay as they are when a setting changes; only their names do.
 struct NoteSpelling {
     SpellingMode mode = SpellingMode::mostlyflats;
-    bool automatic = false; ///< the current chord chooses the mode
-    bool both = false;      ///< the piano's black keys show both their names, whatever the mode
+    Flag automatic = false; ///< the current chord chooses the mode
+    Flag both = false;      ///< the piano's black keys show both their names, whatever the mode
 
     /// Names note `n` in the current mode: "C", "Db", " " for `nonote`.
     /// Rewrites `n`: above 24 or below 0 it is folded by octaves into 0..24; callers read it back.

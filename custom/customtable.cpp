@@ -14,6 +14,12 @@ std::optional<std::size_t> findentry(const CustomTable& table, std::string_view 
     return static_cast<std::size_t>(found - table.begin());
 }
 
+void datablankelim(CustomTable& table)
+{
+    const auto free = std::ranges::stable_partition(table, [](const Entry& entry) { return !entry.name.empty(); });
+    std::ranges::fill(free, Entry{});
+}
+
 std::string getnotename(char digit, const core::NoteSpelling& spelling)
 {
     constexpr std::string_view digits{"0123456789AB"};

@@ -28,6 +28,9 @@ using CustomTable = std::array<Entry, placecount>;
 /// The first place whose name is `name`; nothing where no place has it.
 std::optional<std::size_t> findentry(const CustomTable& table, std::string_view name);
 
+/// Closes the gaps: entries move to the front in their order, free places to the end.
+void datablankelim(CustomTable& table);
+
 /// Name of the note that a character of entry data stands for ("0" is C, "B" is B), in the current spelling;
 /// "?" for any other character.
 std::string getnotename(char digit, const core::NoteSpelling& spelling);

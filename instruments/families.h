@@ -6,6 +6,7 @@
 #include <array>
 #include <cstdint>
 #include <optional>
+#include <ranges>
 #include <string_view>
 
 namespace instruments {
@@ -27,6 +28,17 @@ constexpr std::optional<Family> familyof(std::string_view text)
     if (found == familylist.end())
         return std::nullopt;
     return static_cast<Family>(found - familylist.begin());
+}
+
+/// The listed text that a name differs from by its blanks at most; the first one for a name of no family.
+constexpr std::string_view listedfamily(std::string_view name)
+{
+    constexpr auto isletter = [](char c) { return c != ' '; };
+    const auto same = [&](std::string_view text) {
+        return std::ranges::equal(text | std::views::filter(isletter), name | std::views::filter(isletter));
+    };
+    const auto* found = std::ranges::find_if(familylist, same);
+    return found == familylist.end() ? familylist.front() : *found;
 }
 
 constexpr std::string_view textof(Family family)

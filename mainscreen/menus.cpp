@@ -31,8 +31,8 @@ struct MenuRow {
 constexpr auto rows = std::to_array<MenuRow>({
 //  kind             name             caption                                        handler                   check mark
   { Kind::menu,      "mnufile",       "File" },
-  { Kind::item,      "mnuload",       "Load Custom Settings" },
-  { Kind::item,      "mnusave",       "Save Custom Settings" },
+  { Kind::item,      "mnuload",       "Load Custom Settings",                        &Session::mnuload_Click },
+  { Kind::item,      "mnusave",       "Save Custom Settings",                        &Session::mnusave_Click },
   { Kind::item,      "mnuexit",       "Exit (Quit Program)",                         &Session::tonefretexit },
   { Kind::menu,      "mnuedit",       "Edit and Custom" },
   { Kind::item,      "mnucustom",     "Edit Custom Settings" },

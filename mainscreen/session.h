@@ -5,7 +5,8 @@
 #include "core/chordmatch.h"
 #include "core/notes.h"
 #include "core/transposition.h"
-#include "custom/customtable.h"
+#include "custom/datafile.h"
+#include "custom/settings.h"
 #include "instruments/capo.h"
 #include "instruments/fretboard.h"
 #include "mainscreen/keyboard.h"
@@ -81,11 +82,16 @@ public:
     RetuneRequest retune;
 
     custom::CustomTable customtable;
+    std::string customtext;     ///< the data text that was read last
+    std::string customout;      ///< the one that was built last
+    std::string optionsname;    ///< what `checksave` compares: the family of the data text that was read,
+    std::string optionsdata;    ///< and its packed settings; both empty while none was
     bool customchanged = false; ///< something is to be saved at the end; never cleared during a run
     print::PageSettings pagesettings;
+    std::string pagetext; ///< the print page, a line feed between its lines
     Tips tips;
 
-    std::filesystem::path workdir;  ///< where the data file is read; empty when it cannot be told
+    std::filesystem::path workdir;  ///< where the data file is read and written; empty when it cannot be told
     std::filesystem::path startdir; ///< where the help documents are looked for
     std::string datafilename;
     std::filesystem::path datapath; ///< file last opened
@@ -97,6 +103,17 @@ public:
     void dataload();
     void gureset();
     void tonefretexit();
+
+    // Data file
+    void loadcustom();
+    void savecustom();
+    void getinstring();
+    void getoutstring();
+    void checksave();
+    void mnuload_Click();
+    void mnusave_Click();
+    void userload();
+    void Saveas();
 
     // Notes in, chord out
     void key_Click(int index);   ///< piano key 0..24, or `resetkey`
@@ -165,8 +182,13 @@ private:
     instruments::Hand hand() const;
     std::span<const std::string> firstnotes(std::size_t count) const;
     bool applycustom();
+    custom::Header header() const;
+    custom::Settings settings() const;
+    void applysettings(const custom::Header& read);
+    void loadtext(const std::string& text);
 
     ui::Desktop& desktop;
+    bool keepfirst = false; ///< the data file holds what was not read; it is kept beside before it is overwritten
     bool ended = false;
 };
 

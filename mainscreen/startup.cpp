@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "mainscreen/session.h"
 
+#include <exception>
 #include <system_error>
 
 namespace mainscreen {
@@ -9,6 +10,7 @@ namespace mainscreen {
 void Session::Form_Load()
 {
     initmain();
+    loadcustom();
     initvariables();
     doflatsetup();
 }
@@ -52,6 +54,13 @@ void Session::tonefretexit()
     if (ended)
         return;
     ended = true;
+    try {
+        checksave();
+        if (customchanged)
+            savecustom();
+    } catch (const std::exception& failure) {
+        desktop.tell(ui::Icon::critical, failure.what());
+    }
     desktop.leave();
 }
 

@@ -3,11 +3,24 @@
 #pragma once
 
 #include <cstdint>
+#include <filesystem>
+#include <optional>
+#include <span>
 #include <string>
 
 namespace ui {
 
 enum class Icon : std::uint8_t { information, critical };
+
+enum class Answer : std::uint8_t { yes, no };
+
+enum class Direction : std::uint8_t { open, save };
+
+/// A choice of a file dialog: which files it lists.
+struct FileFilter {
+    const char* name;    ///< as it is shown
+    const char* pattern; ///< "*.txt"; "*.*" lists every file, one without a dot too
+};
 
 /// The screens that stand over the main screen.
 enum class Screen : std::uint8_t { frmretune };
@@ -23,6 +36,13 @@ public:
 
     /// Shows a message with an OK button under the program's title and waits for it.
     virtual void tell(Icon icon, const std::string& text) = 0;
+
+    /// Asks a question with the buttons Yes and No; closing it without an answer is No.
+    virtual Answer ask(const std::string& text, const std::string& title) = 0;
+
+    /// Lets the person pick a file that is there, or name one to save to. Nothing: cancelled. Asks nothing about a file
+    /// that exists, and takes a name as it was typed.
+    virtual std::optional<std::filesystem::path> pickfile(Direction direction, std::span<const FileFilter> filters) = 0;
 
     /// Shows a screen; one that is open comes to the front. Returns at once.
     virtual void open(Screen screen) = 0;

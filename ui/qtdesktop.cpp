@@ -3,18 +3,62 @@
 #include "ui/qtdesktop.h"
 
 #include <QApplication>
+#include <QFile>
+#include <QFileDialog>
 #include <QMessageBox>
 
 namespace ui {
+namespace {
+
+/// A filter in the dialog's own form: what is shown, then what it lists.
+QString dialogfilter(const FileFilter& filter)
+{
+    const QString pattern = QString::fromLatin1(filter.pattern);
+    const QString lists = pattern == QLatin1String("*.*") ? QStringLiteral("*") : pattern;
+    return QStringLiteral("%1 (%2)").arg(QString::fromLatin1(filter.name), lists);
+}
+
+} // namespace
+
+QWidget* QtDesktop::owner() const
+{
+    return QApplication::activeWindow() ? QApplication::activeWindow() : mainscreen.data();
+}
 
 void QtDesktop::tell(Icon icon, const std::string& text)
 {
     showall();
     QMessageBox box(icon == Icon::critical ? QMessageBox::Critical : QMessageBox::Information,
-                    QApplication::applicationDisplayName(), QString::fromStdString(text), QMessageBox::Ok,
-                    QApplication::activeWindow() ? QApplication::activeWindow() : mainscreen.data());
+                    QApplication::applicationDisplayName(), QString::fromStdString(text), QMessageBox::Ok, owner());
     box.setTextFormat(Qt::PlainText);
     box.exec();
+}
+
+Answer QtDesktop::ask(const std::string& text, const std::string& title)
+{
+    showall();
+    QMessageBox box(QMessageBox::Question,
+                    title.empty() ? QApplication::applicationDisplayName() : QString::fromStdString(title),
+                    QString::fromStdString(text), QMessageBox::Yes | QMessageBox::No, owner());
+    box.setTextFormat(Qt::PlainText);
+    return box.exec() == QMessageBox::Yes ? Answer::yes : Answer::no;
+}
+
+std::optional<std::filesystem::path> QtDesktop::pickfile(Direction direction, std::span<const FileFilter> filters)
+{
+    showall();
+    QFileDialog dialog(owner());
+    dialog.setAcceptMode(direction == Direction::open ? QFileDialog::AcceptOpen : QFileDialog::AcceptSave);
+    dialog.setFileMode(direction == Direction::open ? QFileDialog::ExistingFile : QFileDialog::AnyFile);
+    dialog.setOption(QFileDialog::DontConfirmOverwrite);
+    dialog.setOption(QFileDialog::HideNameFilterDetails);
+    QStringList choices;
+    for (const FileFilter& filter : filters)
+        choices << dialogfilter(filter);
+    dialog.setNameFilters(choices);
+    if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty())
+        return std::nullopt;
+    return QFile::encodeName(dialog.selectedFiles().constFirst()).toStdString();
 }
 
 void QtDesktop::open(Screen screen)

@@ -26,11 +26,15 @@ public:
     void beforeasking(std::function<void()> show) { showall = std::move(show); }
 
     void tell(Icon icon, const std::string& text) override;
+    Answer ask(const std::string& text, const std::string& title) override;
+    std::optional<std::filesystem::path> pickfile(Direction direction, std::span<const FileFilter> filters) override;
     void open(Screen screen) override;
     void close(Screen screen) override;
     void leave() override;
 
 private:
+    QWidget* owner() const;
+
     std::function<void()> showall = [] {};
     QPointer<QWidget> mainscreen;
     std::map<Screen, Maker> makers;

@@ -6,12 +6,12 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
-#include <random>
 #include <utility>
 
 namespace {
 
 namespace fs = std::filesystem;
+using tests::Directory;
 using tests::RecordingDesktop;
 using tests::Started;
 
@@ -110,6 +110,7 @@ TEST(Start, transposeRows_beginOnC)
 
 TEST(Start, page_hasItsDefaults)
 {
+    const Directory directory;
     RecordingDesktop desktop;
     mainscreen::Session session(desktop);
     session.pagesettings = {1, 2, 3, true, false, 4, 5}; // of an earlier start
@@ -205,47 +206,22 @@ TEST(Start, everyTip_isAsListed)
     // clang-format on
 }
 
-/// A directory of the test's own, made current; the former one comes back.
-class Directory {
-public:
-    Directory() : former(fs::current_path())
-    {
-        fs::create_directories(own);
-        fs::current_path(own);
-    }
-    ~Directory()
-    {
-        fs::current_path(former);
-        std::error_code gone;
-        fs::permissions(own, fs::perms::owner_all, gone);
-        fs::remove_all(own, gone);
-    }
-    Directory(const Directory&) = delete;
-    Directory& operator=(const Directory&) = delete;
-
-    const fs::path own =
-        fs::canonical(fs::temp_directory_path()) / ("tonefret-start-" + std::to_string(std::random_device()()));
-
-private:
-    fs::path former;
-};
-
 TEST(StartDirectory, current_isWhereFilesAreLookedFor)
 {
     const Directory directory;
-    const Started s;
-    EXPECT_EQ(s.session.workdir, directory.own);
-    EXPECT_EQ(s.session.startdir, directory.own);
-    EXPECT_EQ(s.session.datafilename, "membank.txt");
-    EXPECT_TRUE(s.session.datapath.empty());
-    EXPECT_TRUE(fs::is_empty(directory.own)); // a start writes nothing
+    const Started s(directory);
+    EXPECT_EQ(s.session.workdir, directory.path);
+    EXPECT_EQ(s.session.startdir, directory.path);
+    EXPECT_EQ(s.session.datafilename, "tonefret.txt");
+    EXPECT_EQ(s.session.datapath, directory.path / "tonefret.txt");
+    EXPECT_TRUE(fs::is_empty(directory.path)); // a start writes nothing
 }
 
 TEST(StartDirectory, removed_isNoneAndTheProgramStarts)
 {
     const Directory directory;
-    fs::remove(directory.own);
-    Started s;
+    fs::remove(directory.path);
+    Started s(directory);
     EXPECT_TRUE(s.session.workdir.empty());
     EXPECT_TRUE(s.session.startdir.empty());
     s.enter("C E G");
@@ -255,9 +231,9 @@ TEST(StartDirectory, removed_isNoneAndTheProgramStarts)
 TEST(StartDirectory, unreadable_isNoHindrance)
 {
     const Directory directory;
-    fs::permissions(directory.own, fs::perms::none);
-    Started s;
-    EXPECT_EQ(s.session.workdir, directory.own);
+    fs::permissions(directory.path, fs::perms::none);
+    Started s(directory);
+    EXPECT_EQ(s.session.workdir, directory.path);
     s.enter("C E G");
     EXPECT_EQ(s.session.cordtyp1, "major");
 }

@@ -145,8 +145,8 @@ using Menu = std::vector<MenuRow>;
 // clang-format off
 const std::vector<Menu> menus{
   { { "mnufile",       "File",                                       true  },
-    { "mnuload",       "Load Custom Settings",                       false },
-    { "mnusave",       "Save Custom Settings",                       false },
+    { "mnuload",       "Load Custom Settings",                       true  },
+    { "mnusave",       "Save Custom Settings",                       true  },
     { "mnuexit",       "Exit (Quit Program)",                        true  } },
   { { "mnuedit",       "Edit and Custom",                            true  },
     { "mnucustom",     "Edit Custom Settings",                       false },

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "app/program.h"
+#include "tests/support/directory.h"
 #include "tests/support/recordingdesktop.h"
 
 #include <QAction>
@@ -20,8 +21,18 @@ namespace tests {
 class QuietDesktop : public ui::QtDesktop {
 public:
     std::vector<Told> told;
+    std::deque<std::filesystem::path> files; ///< to be picked; none left: cancelled
 
     void tell(ui::Icon icon, const std::string& text) override { told.push_back({icon, text}); }
+    std::optional<std::filesystem::path> pickfile(ui::Direction /*direction*/,
+                                                  std::span<const ui::FileFilter> /*filters*/) override
+    {
+        if (files.empty())
+            return std::nullopt;
+        auto picked = files.front();
+        files.pop_front();
+        return picked;
+    }
 };
 
 inline std::string str(const QString& text)
@@ -72,6 +83,7 @@ protected:
         return str(control(name)->property("backColor").value<QColor>().name());
     }
 
+    Directory directory; ///< what is saved, is saved here
     QuietDesktop desktop;
     app::Program program{desktop};
     mainscreen::Session& session = program.session;

@@ -4,6 +4,7 @@
 
 #include "ui/desktop.h"
 
+#include <deque>
 #include <string>
 #include <vector>
 
@@ -16,15 +17,36 @@ struct Told {
     bool operator==(const Told&) const = default;
 };
 
+struct Asked {
+    std::string text;
+    std::string title;
+
+    bool operator==(const Asked&) const = default;
+};
+
+struct PickAsked {
+    ui::Direction direction;
+    std::vector<std::string> filters; ///< "name|pattern"
+
+    bool operator==(const PickAsked&) const = default;
+};
+
 /// A desktop without a person: keeps what it was asked, in order.
 class RecordingDesktop : public ui::Desktop {
 public:
     std::vector<Told> told;
+    std::vector<Asked> asked;
+    std::deque<ui::Answer> answers; ///< to the questions to come; none left: No
+    std::vector<PickAsked> pickasked;
+    std::deque<std::filesystem::path> files; ///< to be picked; none left: cancelled
     std::vector<ui::Screen> opened;
     std::vector<ui::Screen> closed;
     int left = 0; ///< how often the program was ended
 
     void tell(ui::Icon icon, const std::string& text) override;
+    ui::Answer ask(const std::string& text, const std::string& title) override;
+    std::optional<std::filesystem::path> pickfile(ui::Direction direction,
+                                                  std::span<const ui::FileFilter> filters) override;
     void open(ui::Screen screen) override;
     void close(ui::Screen screen) override;
     void leave() override;

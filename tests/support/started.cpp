@@ -25,7 +25,12 @@ void append(std::string& line, const std::string& word)
 
 } // namespace
 
-Started::Started()
+Started::Started() : own(std::in_place)
+{
+    session.Form_Load();
+}
+
+Started::Started(const Directory& /*current*/)
 {
     session.Form_Load();
 }

@@ -3,19 +3,24 @@
 #pragma once
 
 #include "mainscreen/session.h"
+#include "tests/support/directory.h"
 #include "tests/support/recordingdesktop.h"
 
+#include <optional>
 #include <string>
 #include <string_view>
 
 namespace tests {
 
-/// A session after its start, on a recording desktop.
+/// A session after its start, on a recording desktop. What it saves is in a folder of its own, or in the current one
+/// given.
 struct Started {
+    std::optional<Directory> own;
     RecordingDesktop desktop;
     mainscreen::Session session{desktop};
 
     Started();
+    explicit Started(const Directory& current);
 
     /// Clicks a key of the lower octave for each name of "C E G".
     void enter(std::string_view names);

@@ -1,0 +1,207 @@
+// SPDX-FileCopyrightText: 2026 The tonefret developers
+// SPDX-License-Identifier: MIT
+#include "tests/support/started.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+namespace fs = std::filesystem;
+using tests::Asked;
+using tests::PickAsked;
+using tests::Started;
+using tests::Told;
+using ui::Answer;
+
+const std::string settings = "00 72 4 801 3 6000 0";
+const std::string guitar = "Tonefret:       GUITAR;" + settings + ";";
+const Asked overwrite{"Overwrite existing file?", "Overwrite File Message"};
+
+/// A session beside which files can be picked.
+class LoadSave : public testing::Test {
+protected:
+    fs::path named(const std::string& name) const { return directory.path / name; }
+
+    void save(const std::string& name)
+    {
+        s.desktop.files.push_back(named(name));
+        s.session.mnusave_Click();
+    }
+    void load(const std::string& name)
+    {
+        s.desktop.files.push_back(named(name));
+        s.session.mnuload_Click();
+    }
+
+    tests::Directory directory;
+    Started s{directory};
+};
+
+TEST_F(LoadSave, dialogs_offerTheirFilters)
+{
+    s.session.mnuload_Click();
+    s.session.mnusave_Click();
+    EXPECT_EQ(s.desktop.pickasked,
+              (std::vector<PickAsked>{{ui::Direction::open, {"All Files (*.*)|*.*", "Text Files(*.txt)|*.txt"}},
+                                      {ui::Direction::save, {"Text Files (*.txt)|*.txt"}}}));
+}
+
+TEST_F(LoadSave, cancel_changesNothing)
+{
+    const fs::path before = s.session.datapath;
+    s.session.mnuload_Click();
+    s.session.mnusave_Click();
+    EXPECT_EQ(directory.names(), "");
+    EXPECT_EQ(s.session.datapath, before);
+    EXPECT_FALSE(s.session.customchanged);
+    EXPECT_TRUE(s.desktop.told.empty() && s.desktop.asked.empty());
+}
+
+TEST_F(LoadSave, emptyPage_savesTheDataAlone)
+{
+    s.session.customtable[2] = {"A", "0349279B"};
+    save("mine.txt");
+    EXPECT_EQ(directory.read("mine.txt"), guitar + "A;0349279B;\r\n");
+    EXPECT_EQ(s.session.datapath, named("mine.txt"));
+    EXPECT_TRUE(s.desktop.asked.empty());
+    EXPECT_FALSE(s.session.customchanged);
+    EXPECT_EQ(s.session.customtable[0].name, "A"); // the gaps are closed
+}
+
+TEST_F(LoadSave, page_standsBeforeTheData)
+{
+    s.session.pagetext = "C major\n\nD";
+    save("mine.txt");
+    EXPECT_EQ(directory.read("mine.txt"), "C major\n\nD\r\n" + guitar + "\r\n");
+}
+
+TEST_F(LoadSave, nameWithoutEnding_getsTxt)
+{
+    const std::pair<const char*, const char*> names[] = {
+        {"mine", "mine.txt"}, {"v1.5 mine", "v1.5 mine"}, {"mine.dat", "mine.dat"}, {".hidden", ".hidden.txt"}};
+    for (const auto& [typed, written] : names) {
+        save(typed);
+        EXPECT_EQ(directory.names(), written) << typed;
+        fs::remove(written);
+    }
+}
+
+TEST_F(LoadSave, existingFile_isOverwrittenAfterYesOnly)
+{
+    directory.write("mine.txt", "old");
+    for (const char* typed : {"mine.txt", "mine"}) { // also the name that it gets
+        save(typed);
+        EXPECT_EQ(directory.read("mine.txt"), "old");
+    }
+    s.desktop.answers.push_back(Answer::yes);
+    save("mine");
+    EXPECT_EQ(directory.read("mine.txt"), guitar + "\r\n");
+    EXPECT_EQ(s.desktop.asked, (std::vector<Asked>{overwrite, overwrite, overwrite}));
+    EXPECT_TRUE(s.desktop.told.empty());
+}
+
+TEST_F(LoadSave, fileThatCannotBeWritten_isToldByNameAndReason)
+{
+    save("no/where.txt");
+    EXPECT_EQ(s.desktop.told, (std::vector<Told>{{ui::Icon::critical, "Cannot write " + named("no/where.txt").string() +
+                                                                          "\nNo such file or directory"}}));
+}
+
+TEST_F(LoadSave, fileThatCannotBeRead_isToldAndChangesNothing)
+{
+    s.session.pagetext = "page";
+    s.session.customtable[0] = {"A", "0349279B"};
+    fs::create_directory("folder");
+    load("none.txt");
+    load("folder");
+    EXPECT_EQ(s.desktop.told,
+              (std::vector<Told>{
+                  {ui::Icon::critical, "Cannot read " + named("none.txt").string() + "\nNo such file or directory"},
+                  {ui::Icon::critical, "Cannot read " + named("folder").string() + "\nIs a directory"}}));
+    EXPECT_EQ(s.session.pagetext, "page");
+    EXPECT_EQ(s.session.customtable[0].name, "A");
+    EXPECT_FALSE(s.session.customchanged);
+}
+
+TEST_F(LoadSave, data_isAppliedAndSavedAtTheEnd)
+{
+    directory.write("mine.txt", "tonefret:       CUSTOM;10 60 2 910 1 5310 0;open;1149279B;\r\n");
+    load("mine.txt");
+    EXPECT_EQ(s.session.datapath, named("mine.txt"));
+    EXPECT_EQ(s.session.cbotuning.text, "open");
+    EXPECT_EQ(s.opennotes(), "E A D G");
+    EXPECT_EQ(s.session.cboleft.text, "Left Hand");
+    EXPECT_EQ(s.session.pagesettings.charactersperline, 60);
+    EXPECT_EQ(s.mode(), 3);
+    EXPECT_EQ(s.rowtext(5).substr(0, 8), "E F F# G");
+    EXPECT_TRUE(s.session.marks.mnusharp && s.session.marks.mnuboth);
+    EXPECT_EQ(s.session.keyboard.key[1].caption, "C# Db");
+    EXPECT_TRUE(s.session.customchanged);
+    EXPECT_TRUE(s.desktop.told.empty());
+    s.session.tonefretexit();
+    EXPECT_EQ(directory.read("tonefret.txt"), "Tonefret:       CUSTOM;10 60 2 910 1 5310 0;open;1149279B;\r\n");
+}
+
+TEST_F(LoadSave, data_leavesThePage)
+{
+    s.session.pagetext = "page";
+    directory.write("mine.txt", guitar);
+    load("mine.txt");
+    EXPECT_EQ(s.session.pagetext, "page");
+}
+
+TEST_F(LoadSave, brokenData_isToldAndWhatIsWholeTaken)
+{
+    s.session.customtable[0] = {"former", "0349279B"};
+    directory.write("mine.txt", guitar + "A;0349279B;B;03");
+    load("mine.txt");
+    EXPECT_EQ(s.desktop.told,
+              (std::vector<Told>{{ui::Icon::information, "Problem with Option Custom Data; am aborting"}}));
+    EXPECT_EQ(s.session.customtable[0].name, "A");
+    EXPECT_EQ(s.session.customtable[1].name, "");
+    EXPECT_TRUE(s.session.customchanged);
+    EXPECT_EQ(directory.read("mine.txt"), guitar + "A;0349279B;B;03");
+}
+
+TEST_F(LoadSave, pageWithData_loadsBoth)
+{
+    s.session.pagetext = "C major\n";
+    s.session.customtable[0] = {"A", "0349279B"};
+    save("both.txt");
+    s.session.pagetext.clear();
+    s.session.customtable = {};
+    load("both.txt");
+    EXPECT_EQ(s.session.pagetext, "C major\n");
+    EXPECT_EQ(s.session.customtable[0].name, "A");
+    EXPECT_TRUE(s.session.customchanged);
+}
+
+TEST_F(LoadSave, otherText_isAPage)
+{
+    s.session.customtable[0] = {"A", "0349279B"};
+    for (const char* bytes : {"TONEFRET:x", "C\r\nTonefret:;", "Caf\xE9", ""}) {
+        directory.write("page.txt", bytes);
+        s.session.pagetext = "former";
+        load("page.txt");
+        EXPECT_EQ(s.session.customtable[0].name, "A") << bytes;
+        EXPECT_FALSE(s.session.customchanged) << bytes;
+    }
+    EXPECT_EQ(s.session.pagetext, "");
+    directory.write("page.txt", "Caf\xE9\r\nD\r\n");
+    load("page.txt");
+    EXPECT_EQ(s.session.pagetext, "Caf\xC3\xA9\nD\n");
+}
+
+TEST_F(LoadSave, saveToAPickedFile_isNotWhatTheEndCompares)
+{
+    s.session.tonefretexit();
+    Started again(directory);
+    again.session.dosharps();
+    again.desktop.files.push_back(named("mine.txt"));
+    again.session.mnusave_Click();
+    EXPECT_FALSE(again.session.customchanged);
+    again.session.tonefretexit();
+    EXPECT_EQ(directory.read("tonefret.txt"), "Tonefret:       GUITAR;00 72 4 801 3 6300 0;\r\n");
+}
+
+} // namespace
