@@ -12,7 +12,8 @@
 #include "mainscreen/keyboard.h"
 #include "mainscreen/selector.h"
 #include "mainscreen/tips.h"
-#include "print/pagesettings.h"
+#include "print/camera.h"
+#include "print/page.h"
 #include "ui/desktop.h"
 
 #include <array>
@@ -88,6 +89,9 @@ public:
     std::string optionsdata;    ///< and its packed settings; both empty while none was
     bool customchanged = false; ///< something is to be saved at the end; never cleared during a run
     print::PageSettings pagesettings;
+    print::Camera camera;
+    print::Page page;
+    print::MarginBoxes printdialog;
     std::string pagetext; ///< the print page, a line feed between its lines
     Tips tips;
 
@@ -166,6 +170,56 @@ public:
     void frmretune_Unload();
     void stringretune();
 
+    // Chord camera
+    void photochord();      ///< takes a snapshot; the first one asks for the mode instead
+    void cmdguitar_Click(); ///< the question's buttons: choose the mode and take the snapshot
+    void cmdpiano_Click();
+    void mnuguitar_Click(); ///< menu items of two screens: choose the mode for the snapshots to come
+    void mnupiano_Click();
+    void menuchordtype();
+    void chordsnap();
+    void printfill(); ///< writes the pending block to the page, or only a heading if nothing is pending
+    void allclear();
+    void mnuphotoclear_Click();
+    void ccamera_cmdret_Click();
+    void ccamera_cmdview_Click();
+    void ccamera_cmdclear_Click();
+
+    // Print page
+    void mnuviewprint_Click(); ///< opens the page; one that is open keeps what it shows
+    void rtbprint_Change(const std::string& text);
+    void txtchar_Change(const std::string& text);
+    void txtspace_Change(const std::string& text);
+    void txtfont_Change(const std::string& text);
+    void chkmult_Click(bool checked);
+    void chkalt_Click(bool checked);
+    void cmdchardown_Click();
+    void cmdcharup_Click();
+    void cmdspacedown_Click();
+    void cmdspaceup_Click();
+    void cmddownfont_Click();
+    void cmdupfont_Click();
+    void cmdfonthelp_Click();
+    void cmdshow_Click();
+    void mprint_cmdclear_Click();
+    void charsize();   ///< the size that suits the characters per line
+    void changefont(); ///< shows the page in the stored size
+    void mexit();      ///< leaves the page: stores its boxes and closes it; nothing if it is not open
+    /// Shows a text that was read from a file as the page, after a clear. Its line ends become line feeds.
+    void loadpage(const std::string& text);
+    void showsettings(); ///< brings the page to settings that were loaded
+
+    // Printing
+    void chordprint(); ///< opens the print dialog
+    void txttop_Change(const std::string& text);
+    void txtleft_Change(const std::string& text);
+    void cmdtopdown_Click();
+    void cmdtopup_Click();
+    void cmdleftdown_Click();
+    void cmdleftup_Click();
+    void cmdprint_Click();
+    void cmdcancel_Click();
+
 private:
     void setnote(std::size_t i, const std::string& text);
     void setcordtyp1(const std::string& text);
@@ -186,6 +240,14 @@ private:
     custom::Settings settings() const;
     void applysettings(const custom::Header& read);
     void loadtext(const std::string& text);
+    bool photograph();
+    void placesnapshot();
+    void showcamera();
+    void setcameramode(print::CameraMode mode);
+    void openpage();
+    bool movenumber(const print::Step& button, std::string& box, std::int16_t& setting);
+    void printpages(const std::string& text);
+    std::optional<std::filesystem::path> pickpdf();
 
     ui::Desktop& desktop;
     bool keepfirst = false; ///< the data file holds what was not read; it is kept beside before it is overwritten

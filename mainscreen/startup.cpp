@@ -11,6 +11,7 @@ void Session::Form_Load()
 {
     initmain();
     loadcustom();
+    showsettings();
     initvariables();
     doflatsetup();
 }
@@ -55,6 +56,7 @@ void Session::tonefretexit()
         return;
     ended = true;
     try {
+        mexit();
         checksave();
         if (customchanged)
             savecustom();

@@ -96,4 +96,9 @@ void QtDesktop::leave()
     QApplication::quit();
 }
 
+void QtDesktop::beep()
+{
+    QApplication::beep();
+}
+
 } // namespace ui
