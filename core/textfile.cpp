@@ -200,6 +200,8 @@ std::error_code replacetext(const fs::path& file, std::string_view bytes)
     const fs::path target = targetof(file);
     struct stat old {};
     const bool exists = ::stat(target.c_str(), &old) == 0;
+    if (!exists && errno != ENOENT)
+        return lastfailure();
     if (exists) {
         if (const auto refused = refusal(old.st_mode))
             return refused;

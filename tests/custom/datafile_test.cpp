@@ -1,11 +1,11 @@
 // SPDX-FileCopyrightText: 2026 The tonefret developers
 // SPDX-License-Identifier: MIT
 #include "custom/datafile.h"
+#include "tests/support/huge.h"
 #include "tests/support/names.h"
 
 #include <gtest/gtest.h>
 
-#include <chrono>
 #include <random>
 
 namespace custom {
@@ -176,7 +176,7 @@ std::string randomname(std::mt19937& random)
 {
     static constexpr std::array letters{"a", "Z", " ", ":", "\n", "\r", "\xC3\xA9", "\xE2\x99\xAD", "\xF0\x9F\x8E\xB8"};
     std::string name;
-    for (unsigned length = 1 + random() % 25; length > 0; --length)
+    for (auto length = 1 + random() % 25; length > 0; --length)
         name += letters.at(random() % letters.size());
     return name;
 }
@@ -218,14 +218,14 @@ TEST(Unpack, everyCutOfAText_keepsItsWholeEntries)
 
 TEST(Unpack, hundredMegabytes_areReadInUnderASecond)
 {
-    constexpr std::size_t size = 100'000'000;
+    constexpr std::size_t size = tests::hugesize;
     std::string headers = "Tonefret:";
     while (headers.size() < size)
         headers += ";" + settings + ";";
     for (const std::string& text : {guitar + std::string(size, 'x'), guitar + std::string(size, ';'), headers}) {
-        const auto begin = std::chrono::steady_clock::now();
+        const tests::Stopwatch watch;
         EXPECT_TRUE(custom::unpack(text).header);
-        EXPECT_LT(std::chrono::steady_clock::now() - begin, std::chrono::seconds(1)) << text.substr(0, 60);
+        EXPECT_LT(watch.seconds(), 1) << text.substr(0, 60);
     }
 }
 
