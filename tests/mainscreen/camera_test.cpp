@@ -76,7 +76,7 @@ TEST(Camera, afterASnapshot_showsItsChord)
     s.session.photochord();
     const print::CameraLabels& labels = s.session.camera.labels;
     EXPECT_EQ(labels.lbltaken, "Chord Snapshots taken so far = 1");
-    EXPECT_EQ(labels.lbllast, "Last snapshot:     C major,           ");
+    EXPECT_EQ(labels.lbllast, "Last snapshot:     C major,            ");
     EXPECT_EQ(labels.lbltype, "STRINGED INSTRUMENTS");
     EXPECT_EQ(labels.lblleft, "Snapshots Left:  3 or more");
     EXPECT_EQ(s.desktop.beeps, 1);

@@ -135,9 +135,9 @@ TEST(Print, linesTooLong_areToldFirst)
     TwoLines s;
     s.desktop.room = {8, 60};
     s.session.cmdprint_Click();
-    EXPECT_EQ(s.desktop.told,
-              (std::vector{Told{Icon::information, "Lines too long for the paper: 2\nOnly 8 characters fit on a line in "
-                                                   "this font size;\nwhat is longer goes on in the next line."}}));
+    EXPECT_EQ(s.desktop.told, (std::vector{Told{Icon::information,
+                                                "Lines too long for the paper: 2\nOnly 8 characters fit on a line in "
+                                                "this font size;\nwhat is longer goes on in the next line."}}));
     EXPECT_EQ(s.desktop.printed.front().pages,
               (std::vector<std::vector<std::string>>{{"", "", "", "      on", "e", "      tw", "o"}}));
 }
@@ -193,8 +193,7 @@ TEST(NoPrinter, accepted_writesThePickedFile)
     s.desktop.answers = {ui::Answer::yes};
     s.desktop.files = {s.session.workdir / "chords"};
     s.session.cmdprint_Click();
-    EXPECT_EQ(s.desktop.pickasked,
-              (std::vector{tests::PickAsked{ui::Direction::save, {"PDF Files (*.pdf)|*.pdf"}}}));
+    EXPECT_EQ(s.desktop.pickasked, (std::vector{tests::PickAsked{ui::Direction::save, {"PDF Files (*.pdf)|*.pdf"}}}));
     ASSERT_EQ(s.desktop.printed.size(), 1U);
     EXPECT_EQ(s.desktop.printed.front().pdf, s.session.workdir / "chords.pdf");
     EXPECT_EQ(s.desktop.printed.front().pages.front().size(), 5U);

@@ -139,7 +139,7 @@ TEST(Charts, bothModesOnOnePage_areAsDrawn)
     s.pickfamily(bass);
     s.session.photochord();
     s.session.mnupiano_Click();
-    s.session.photochord(); // four strings have no second line for the keyboard's first
+    s.session.photochord();
     s.session.printfill();
     tests::expectgolden("bothmodes", s.session.page.text);
 }
