@@ -43,7 +43,7 @@ bool issigned(std::string_view text);
 /// Reads a data text in UTF-8; lengths count characters. Behind the last ";" anything may stand, such as a line end.
 Unpacked unpack(std::string_view text);
 
-/// Whether the place of a text may not be written over without losing what `unpack` did not take from it.
+/// Whether a text holds anything that `unpack` does not take from it, so that it is not to be written over unkept.
 bool losestext(std::string_view text);
 
 /// What was written, and the first entry that could not be.

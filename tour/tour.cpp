@@ -130,8 +130,9 @@ int main(int argc, char** argv)
     const QApplication application(argc, argv);
     try {
         const QStringList arguments = QApplication::arguments();
-        const QDir folder(arguments.size() > 1 ? arguments.at(1) : QStringLiteral("."));
-        if (!folder.mkpath(QStringLiteral(".")))
+        const QDir folder(QDir(arguments.size() > 1 ? arguments.at(1) : QStringLiteral(".")).absolutePath());
+        // Settings that somebody keeps in the current directory are not to be seen in the pictures.
+        if (!folder.mkpath(QStringLiteral(".")) || !QDir::setCurrent(folder.path()))
             throw std::runtime_error("cannot make the folder " + folder.path().toStdString());
         usepicturefont();
         lightwalk(folder);

@@ -3,6 +3,7 @@
 #include "ui/qtdesktop.h"
 
 #include <QApplication>
+#include <QDir>
 #include <QFile>
 #include <QFileDialog>
 #include <QMessageBox>
@@ -47,7 +48,7 @@ Answer QtDesktop::ask(const std::string& text, const std::string& title)
 std::optional<std::filesystem::path> QtDesktop::pickfile(Direction direction, std::span<const FileFilter> filters)
 {
     showall();
-    QFileDialog dialog(owner());
+    QFileDialog dialog(owner(), QString(), pickfolder.isEmpty() ? QDir::currentPath() : pickfolder);
     dialog.setAcceptMode(direction == Direction::open ? QFileDialog::AcceptOpen : QFileDialog::AcceptSave);
     dialog.setFileMode(direction == Direction::open ? QFileDialog::ExistingFile : QFileDialog::AnyFile);
     dialog.setOption(QFileDialog::DontConfirmOverwrite);
@@ -58,6 +59,7 @@ std::optional<std::filesystem::path> QtDesktop::pickfile(Direction direction, st
     dialog.setNameFilters(choices);
     if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty())
         return std::nullopt;
+    pickfolder = dialog.directory().path();
     return QFile::encodeName(dialog.selectedFiles().constFirst()).toStdString();
 }
 

@@ -41,6 +41,7 @@ private:
 
     std::function<void()> showall = [] {};
     QPointer<QWidget> mainscreen;
+    QString pickfolder; ///< where a file was picked last; empty: nowhere yet
     std::map<Screen, Maker> makers;
     std::map<Screen, QPointer<QWidget>> screens;
 };
