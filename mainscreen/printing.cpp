@@ -98,14 +98,7 @@ std::optional<std::filesystem::path> Session::pickpdf()
 {
     if (desktop.ask("There is no printer.  Save the pages as a PDF file instead?", "") == ui::Answer::no)
         return std::nullopt;
-    auto picked = desktop.pickfile(ui::Direction::save, pdffilters);
-    if (picked && !picked->has_extension())
-        *picked += ".pdf";
-    std::error_code unknown;
-    if (picked && std::filesystem::exists(*picked, unknown) &&
-        desktop.ask("Overwrite existing file?", "Overwrite File Message") == ui::Answer::no)
-        return std::nullopt;
-    return picked;
+    return picksave(pdffilters, ".pdf");
 }
 
 } // namespace mainscreen

@@ -153,10 +153,4 @@ void Session::loadpage(const std::string& text)
     page.getlinenumber();
 }
 
-void Session::showsettings()
-{
-    page.show(pagesettings);
-    page.getlinenumber();
-}
-
 } // namespace mainscreen

@@ -55,6 +55,12 @@ enum class Reread : std::uint8_t {
     fromtype,  ///< the chord type last used is built on the moved root
 };
 
+/// What is saved to a file that the user picks.
+enum class SaveKind : std::uint8_t {
+    custom, ///< the page, if there is any text on it, and the packed data
+    page,   ///< the page alone
+};
+
 /// The program's one state and the procedures that change it, each named after the event or the act that it is.
 /// Screens show what stands here and keep nothing of their own. A procedure runs to its end before the next event.
 class Session {
@@ -92,7 +98,6 @@ public:
     print::Camera camera;
     print::Page page;
     print::MarginBoxes printdialog;
-    std::string pagetext; ///< the print page, a line feed between its lines
     Tips tips;
 
     std::filesystem::path workdir;  ///< where the data file is read and written; empty when it cannot be told
@@ -117,7 +122,7 @@ public:
     void mnuload_Click();
     void mnusave_Click();
     void userload();
-    void Saveas();
+    void Saveas(SaveKind kind);
 
     // Notes in, chord out
     void key_Click(int index);   ///< piano key 0..24, or `resetkey`
@@ -207,7 +212,7 @@ public:
     void mexit();      ///< leaves the page: stores its boxes and closes it; nothing if it is not open
     /// Shows a text that was read from a file as the page, after a clear. Its line ends become line feeds.
     void loadpage(const std::string& text);
-    void showsettings(); ///< brings the page to settings that were loaded
+    void mprint_mnusave_Click();
 
     // Printing
     void chordprint(); ///< opens the print dialog
@@ -248,6 +253,9 @@ private:
     bool movenumber(const print::Step& button, std::string& box, std::int16_t& setting);
     void printpages(const std::string& text);
     std::optional<std::filesystem::path> pickpdf();
+    /// Lets the user pick a file to save to, and asks before one is overwritten. A name without an ending gets
+    /// `ending`.
+    std::optional<std::filesystem::path> picksave(std::span<const ui::FileFilter> filters, const char* ending);
 
     ui::Desktop& desktop;
     bool keepfirst = false; ///< the data file holds what was not read; it is kept beside before it is overwritten

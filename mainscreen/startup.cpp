@@ -11,7 +11,6 @@ void Session::Form_Load()
 {
     initmain();
     loadcustom();
-    showsettings();
     initvariables();
     doflatsetup();
 }
@@ -23,6 +22,7 @@ void Session::initmain()
     datafilename = "membank.txt";
     startdir = workdir;
     pagesettings = {};
+    page.show(pagesettings);
 }
 
 void Session::initvariables()

@@ -304,4 +304,102 @@ TEST(LoadPage, text_replacesPageAndSnapshots)
     EXPECT_EQ(s.session.camera.mode, print::CameraMode::keyboard);
 }
 
+struct Saving {
+    const char* name;
+    const char* text;
+    const char* bytes;
+    bool told;
+};
+
+class SavePage : public testing::TestWithParam<Saving> {};
+
+TEST_P(SavePage, text_isWrittenWithOneLineEnd)
+{
+    const tests::Directory directory;
+    Started s(directory);
+    s.session.mnuguitar_Click();
+    s.session.photochord(); // what is pending is not seen, and not saved
+    s.session.rtbprint_Change(GetParam().text);
+    s.desktop.files = {directory.path / "mine"};
+    s.session.mprint_mnusave_Click();
+    EXPECT_EQ(directory.read("mine.txt"), GetParam().bytes);
+    EXPECT_EQ(s.desktop.pickasked, (std::vector{tests::PickAsked{ui::Direction::save, {"Text Files (*.txt)|*.txt"}}}));
+    EXPECT_EQ(s.desktop.told, GetParam().told
+                                  ? (std::vector{Told{Icon::information, "Problem:  No data in chord printout area,\n"
+                                                                         "have to abort, sorry"}})
+                                  : std::vector<Told>{});
+    EXPECT_TRUE(s.session.camera.pending());
+    EXPECT_EQ(s.session.datapath, directory.path / "mine.txt");
+}
+
+// clang-format off
+INSTANTIATE_TEST_SUITE_P(Texts, SavePage, testing::Values(
+    Saving{"oneLine",  "title",              "title\r\n",              false},
+    Saving{"lines",    "C\n\nE -|*|\n",      "C\n\nE -|*|\n\r\n",      false},
+    Saving{"blanks",   "  ",                 "  \r\n",                 false},
+    Saving{"umlaut",   "Gr\xC3\xBC\xC3\x9F""e", "Gr\xC3\xBC\xC3\x9F""e\r\n", false},
+    Saving{"nothing",  "",                   "",                       true}),
+    [](const auto& row) { return std::string(row.param.name); });
+// clang-format on
+
+TEST(SavePage, fileThatExists_isOverwrittenOnlyWithAYes)
+{
+    for (const ui::Answer answer : {ui::Answer::yes, ui::Answer::no}) {
+        const tests::Directory directory;
+        directory.write("mine.txt", "old");
+        Started s(directory);
+        s.desktop.files = {directory.path / "mine.txt"};
+        s.desktop.answers = {answer};
+        s.session.mprint_mnusave_Click(); // an empty page empties the file
+        EXPECT_EQ(s.desktop.asked, (std::vector{tests::Asked{"Overwrite existing file?", "Overwrite File Message"}}));
+        EXPECT_EQ(directory.read("mine.txt"), answer == ui::Answer::yes ? "" : "old");
+        EXPECT_EQ(s.desktop.told.size(), answer == ui::Answer::yes ? 1U : 0U);
+    }
+}
+
+TEST(SavePage, folderThatIsNotThere_isTold)
+{
+    Started s;
+    s.session.rtbprint_Change("title");
+    const std::filesystem::path file = s.session.workdir / "none" / "mine.txt";
+    s.desktop.files = {file};
+    s.session.mprint_mnusave_Click();
+    EXPECT_EQ(s.desktop.told,
+              (std::vector{Told{Icon::critical, "Cannot write " + file.string() + "\nNo such file or directory"}}));
+}
+
+TEST(SavePage, loadedAgain_isTheSameAndItsLineEnd)
+{
+    const tests::Directory directory;
+    Started s(directory);
+    s.session.mnuguitar_Click();
+    s.session.photochord();
+    s.session.cmdshow_Click();
+    const std::string text = s.session.page.text;
+    s.desktop.files = {directory.path / "mine.txt", directory.path / "mine.txt"};
+    s.session.mprint_mnusave_Click();
+    s.session.mprint_cmdclear_Click();
+    s.session.userload();
+    EXPECT_EQ(s.session.page.text, text + "\n");
+    EXPECT_EQ(s.session.page.kept, text + "\n");
+}
+
+TEST(LoadSettings, openPage_showsTheLoadedNumbersAndCounts)
+{
+    const tests::Directory directory;
+    directory.write("mine.txt", "one\ntwo\nTonefret:       GUITAR;00 80 7 911 2 3000 0;\r\n");
+    Started s(directory);
+    s.session.mnuviewprint_Click();
+    s.desktop.files = {directory.path / "mine.txt"};
+    s.session.userload();
+    EXPECT_EQ(s.session.page.text, "one\ntwo");
+    EXPECT_EQ(s.session.page.txtlines, "1");
+    EXPECT_EQ(s.session.page.txtchar, "80");
+    EXPECT_EQ(s.session.page.txtspace, "7");
+    EXPECT_EQ(s.session.page.txtfont, "9");
+    EXPECT_EQ(s.session.page.fontsize, 9);
+    EXPECT_TRUE(s.session.page.chkmult);
+    EXPECT_TRUE(s.session.page.chkalt);
+}
+
 } // namespace
