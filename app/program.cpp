@@ -13,6 +13,7 @@ Program::Program(ui::QtDesktop& opened)
     desktop.beforeasking([this] { stage.showall(); });
     desktop.setmain(&mainscreen);
     desktop.add(ui::Screen::frmretune, [this](QWidget* owner) { return makeretune(owner); });
+    printscreens.add(desktop);
 }
 
 void Program::start()
@@ -27,6 +28,7 @@ void Program::display()
     mainscreen.display();
     if (retunescreen)
         retunescreen->display(ui::totext(session.fretboard.cell.at(static_cast<std::size_t>(session.retune.row)).text));
+    printscreens.display();
 }
 
 QWidget* Program::makeretune(QWidget* owner)

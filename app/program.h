@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "app/printscreens.h"
 #include "instruments/retunescreen.h"
 #include "mainscreen/mainscreen.h"
 #include "mainscreen/session.h"
@@ -33,6 +34,7 @@ private:
     QWidget* makeretune(QWidget* owner);
 
     QPointer<instruments::RetuneScreen> retunescreen;
+    PrintScreens printscreens{session, stage, look};
 };
 
 } // namespace app

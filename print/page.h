@@ -17,7 +17,7 @@ struct Page {
     std::string txtchar;
     std::string txtspace;
     std::string txtfont;
-    std::string txtlines; ///< line feeds of the text, as of the last count
+    std::string txtlines{"0"}; ///< line feeds of the text, as of the last count
     bool chkmult = false;
     bool chkalt = true;
 
