@@ -11,9 +11,8 @@ namespace print {
 namespace {
 
 constexpr const char* boxtip = "use arrows to increase or decrease";
-constexpr int boxwidth = 46;      // pixels at zoom 1
-constexpr int arrowwidth = 26;    //
-constexpr int captionwidth = 130; //
+constexpr int boxwidth = 46; // pixels at zoom 1
+constexpr int arrowwidth = 26;
 
 ui::Button* arrow(const ui::Look& look, Qt::ArrowType pointing, const char* name, const char* tip, QWidget* parent)
 {
@@ -36,7 +35,7 @@ NumberBox::NumberBox(const ui::Look& look, const NumberRow& row, QWidget* parent
     line->setSpacing(qRound(4 * look.zoom()));
     auto* caption = new QLabel(QString::fromLatin1(row.caption), this);
     caption->setFont(look.font(ui::Type::label));
-    caption->setMinimumWidth(qRound(captionwidth * look.zoom()));
+    caption->setMinimumWidth(qRound(row.captionwidth * look.zoom()));
     box->setObjectName(QString::fromLatin1(row.box));
     box->setToolTip(QString::fromLatin1(boxtip));
     box->setAccessibleName(QString::fromLatin1(row.caption));

@@ -16,6 +16,7 @@ struct NumberRow {
     const char* downtip;
     const char* up;
     const char* uptip;
+    int captionwidth; ///< pixels at zoom 1; rows below one another have the same
 };
 
 /// A caption and a number between two arrows, in a line. The parts are found by the names of the row.

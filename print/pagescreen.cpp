@@ -15,11 +15,11 @@ namespace {
 
 // clang-format off
 constexpr NumberRow characterrow{"Characters / line : ", "txtchar", "cmdchardown", "less characters per line",
-                                 "cmdcharup", "more characters per line"};
+                                 "cmdcharup", "more characters per line", 130};
 constexpr NumberRow spacingrow{"Chord Spacing: ", "txtspace", "cmdspacedown", "less spacing between chords",
-                               "cmdspaceup", "more spacing between chords"};
+                               "cmdspaceup", "more spacing between chords", 130};
 constexpr NumberRow fontrow{"Change Font Size", "txtfont", "cmddownfont", "lower the font size",
-                            "cmdupfont", "raise the font size"};
+                            "cmdupfont", "raise the font size", 130};
 // clang-format on
 constexpr const char* cleartip = "clears the print screen and all print data"; // the print button has it too
 constexpr int charactersinview = 80;

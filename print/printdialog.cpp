@@ -11,9 +11,9 @@ namespace {
 // The arrows' tips are those of the print page's, one of them with its slip of the pen; they are kept so.
 // clang-format off
 constexpr NumberRow toprow{"Top Margin (number of lines)", "txttop", "cmdtopdown", "less characters per line",
-                           "cmdtopup", "more characters per line"};
+                           "cmdtopup", "more characters per line", 190};
 constexpr NumberRow leftrow{"Left Margin (character spaces)", "txtleft", "cmdleftdown", "less sp[acing between chords",
-                            "cmdleftup", "more spacing between chords"};
+                            "cmdleftup", "more spacing between chords", 190};
 // clang-format on
 
 } // namespace
