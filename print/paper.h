@@ -15,7 +15,7 @@ class Paper : public QPlainTextEdit {
     Q_OBJECT
 
 public:
-    Paper(const ui::Look& shown, QWidget* parent);
+    Paper(const ui::Look& paperlook, QWidget* parent);
 
     /// Shows a text, without telling of it. What is added at its end leaves the rest and its view alone.
     void display(const std::string& text);
