@@ -15,6 +15,7 @@ Program::Program(ui::QtDesktop& opened)
     desktop.add(ui::Screen::frmretune, [this](QWidget* owner) { return makeretune(owner); });
     desktop.add(ui::Screen::custom, [this](QWidget* owner) { return makecustom(owner); });
     desktop.add(ui::Screen::arrange, [this](QWidget* owner) { return makearrange(owner); });
+    printscreens.add(desktop);
 }
 
 void Program::start()
@@ -33,6 +34,7 @@ void Program::display()
         customscreen->display();
     if (arrangescreen)
         arrangescreen->display();
+    printscreens.display();
 }
 
 QWidget* Program::makeretune(QWidget* owner)

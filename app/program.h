@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "app/printscreens.h"
 #include "custom/arrangescreen.h"
 #include "custom/customscreen.h"
 #include "instruments/retunescreen.h"
@@ -39,6 +40,7 @@ private:
     QPointer<instruments::RetuneScreen> retunescreen;
     QPointer<custom::CustomScreen> customscreen;
     QPointer<custom::ArrangeScreen> arrangescreen;
+    PrintScreens printscreens{session, stage, look};
 };
 
 } // namespace app

@@ -98,6 +98,7 @@ void Session::applysettings(const custom::Header& read)
                     .alternate = core::keptflag(kept.alternate),
                     .topmargin = kept.topmargin,
                     .leftmargin = kept.leftmargin};
+    page.show(pagesettings);
     spelling = {
         .mode = keptmode(kept.mode), .automatic = core::keptflag(kept.automatic), .both = core::keptflag(kept.both)};
     presets();
@@ -152,7 +153,12 @@ void Session::mnuload_Click()
 
 void Session::mnusave_Click()
 {
-    Saveas();
+    Saveas(SaveKind::custom);
+}
+
+void Session::mprint_mnusave_Click()
+{
+    Saveas(SaveKind::page);
 }
 
 void Session::userload()
@@ -173,7 +179,7 @@ void Session::loadtext(const std::string& text)
 {
     custom::PageAndData parts = custom::split(text);
     if (parts.page)
-        pagetext = std::move(*parts.page);
+        loadpage(*parts.page);
     if (!parts.data)
         return;
     customtext = std::move(*parts.data);
@@ -184,24 +190,39 @@ void Session::loadtext(const std::string& text)
     gettuning();
     customchanged = true;
     doflatsetup();
+    page.getlinenumber();
 }
 
-void Session::Saveas()
+void Session::Saveas(SaveKind kind)
 {
-    auto picked = desktop.pickfile(ui::Direction::save, savefilters);
+    const auto picked = picksave(savefilters, ".txt");
     if (!picked)
         return;
+    datapath = *picked;
+    if (kind == SaveKind::custom)
+        getoutstring();
+    const std::string text = kind == SaveKind::custom ? custom::join(page.text, customout) : page.text;
+    // Without any text the file is emptied all the same.
+    const std::string bytes = text.empty() ? text : text + std::string(custom::lineend);
+    if (const auto failure = core::replacetext(datapath, bytes))
+        desktop.tell(ui::Icon::critical, failuretext("Cannot write", datapath, failure));
+    else if (text.empty())
+        desktop.tell(ui::Icon::information,
+                     lines({"Problem:  No data in chord printout area,", "have to abort, sorry"}));
+}
+
+std::optional<std::filesystem::path> Session::picksave(std::span<const ui::FileFilter> filters, const char* ending)
+{
+    auto picked = desktop.pickfile(ui::Direction::save, filters);
+    if (!picked)
+        return std::nullopt;
     if (!picked->has_extension())
-        *picked += ".txt";
+        *picked += ending;
     std::error_code unknown;
     if (std::filesystem::exists(*picked, unknown) &&
         desktop.ask("Overwrite existing file?", "Overwrite File Message") == ui::Answer::no)
-        return;
-    datapath = *picked;
-    getoutstring();
-    const std::string text = custom::join(pagetext, customout) + std::string(custom::lineend);
-    if (const auto failure = core::replacetext(datapath, text))
-        desktop.tell(ui::Icon::critical, failuretext("Cannot write", datapath, failure));
+        return std::nullopt;
+    return picked;
 }
 
 } // namespace mainscreen

@@ -23,9 +23,10 @@ struct MenuRow {
     Kind kind;
     const char* name;
     const char* caption;
-    void (Session::*handler)() = nullptr; ///< none: nothing to do yet, the item is disabled
-    bool SpellingMarks::*mark = nullptr;  ///< the state of its check mark
-    bool checked = false;                 ///< the same where nothing changes it
+    void (Session::*handler)() = nullptr;   ///< none: nothing to do yet, the item is disabled
+    bool SpellingMarks::*mark = nullptr;    ///< the state of its check mark
+    bool checked = false;                   ///< the same where nothing changes it
+    bool print::ModeMarks::*mode = nullptr; ///< the same of the camera's
 };
 
 // clang-format off
@@ -48,12 +49,12 @@ constexpr auto rows = std::to_array<MenuRow>({
   { Kind::separator, "mnu5",          "" },
   { Kind::check,     "mnuboth",       "Keyboard Itself - show both",                 &Session::mnuboth_Click,  &SpellingMarks::mnuboth },
   { Kind::menu,      "mnuprint",      "Print Chords" },
-  { Kind::item,      "mnusnap",       "Snapshot Chord Text" },
-  { Kind::item,      "mnuviewprint",  "View Print Text" },
-  { Kind::check,     "mnuguitar",     "Stringed Instrument Chords - click to set" },
-  { Kind::check,     "mnupiano",      "Keyboard Chords - click to set" },
-  { Kind::item,      "mnuphotoclear", "Clear Photos and Reset Print Data" },
-  { Kind::item,      "mnuprintchord", "Print the chords" },
+  { Kind::item,      "mnusnap",       "Snapshot Chord Text",                         &Session::photochord },
+  { Kind::item,      "mnuviewprint",  "View Print Text",                             &Session::mnuviewprint_Click },
+  { Kind::check,     "mnuguitar",     "Stringed Instrument Chords - click to set",   &Session::mnuguitar_Click, nullptr, false, &print::ModeMarks::mnuguitar },
+  { Kind::check,     "mnupiano",      "Keyboard Chords - click to set",              &Session::mnupiano_Click,  nullptr, false, &print::ModeMarks::mnupiano },
+  { Kind::item,      "mnuphotoclear", "Clear Photos and Reset Print Data",           &Session::mnuphotoclear_Click },
+  { Kind::item,      "mnuprintchord", "Print the chords",                            &Session::chordprint },
   { Kind::menu,      "mnuhelp",       "Help" },
   { Kind::item,      "mnubhelp",      "Basic Help" },
   { Kind::item,      "mnuchelp",      "Help - Complete" },
@@ -96,6 +97,8 @@ Menus::Menus(QMenuBar& bar, Session& shown, ui::Stage& entered) : session(shown)
         QAction* action = additem(*menu, row, session, entered);
         if (row.mark)
             marked.push_back({action, row.mark});
+        if (row.mode)
+            modes.push_back({action, row.mode});
     }
 }
 
@@ -103,6 +106,8 @@ void Menus::display()
 {
     for (const Marked& item : marked)
         item.action->setChecked(session.marks.*item.mark);
+    for (const Mode& item : modes)
+        item.action->setChecked(session.camera.marks.*item.mark);
 }
 
 } // namespace mainscreen

@@ -25,8 +25,14 @@ private:
         bool SpellingMarks::*mark;
     };
 
+    struct Mode {
+        QAction* action;
+        bool print::ModeMarks::*mark;
+    };
+
     Session& session;
     std::vector<Marked> marked;
+    std::vector<Mode> modes;
 };
 
 } // namespace mainscreen

@@ -29,7 +29,7 @@ OutputPanel::OutputPanel(ui::Canvas& drawn, Session& shown, ui::Stage& entered) 
     onclick(reset, &Session::key_Click, resetkey);
     cordcam = put(new ui::Button(canvas.look(), QStringLiteral("chord cam"), &canvas), QStringLiteral("cordcam"),
                   places::camera);
-    cordcam->setEnabled(false);
+    onclick(cordcam, &Session::photochord);
 }
 
 void OutputPanel::addcaptions()

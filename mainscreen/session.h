@@ -13,7 +13,8 @@
 #include "mainscreen/keyboard.h"
 #include "mainscreen/selector.h"
 #include "mainscreen/tips.h"
-#include "print/pagesettings.h"
+#include "print/camera.h"
+#include "print/page.h"
 #include "ui/desktop.h"
 
 #include <array>
@@ -55,6 +56,12 @@ enum class Reread : std::uint8_t {
     fromtype,  ///< the chord type last used is built on the moved root
 };
 
+/// What is saved to a file that the user picks.
+enum class SaveKind : std::uint8_t {
+    custom, ///< the page, if there is any text on it, and the packed data
+    page,   ///< the page alone
+};
+
 /// The program's one state and the procedures that change it, each named after the event or the act that it is.
 /// Screens show what stands here and keep nothing of their own. A procedure runs to its end before the next event.
 class Session {
@@ -92,7 +99,9 @@ public:
     bool customshown = false;   ///< the screen `custom` is open
     bool arrangeshown = false;  ///< the screen `arrange` is open
     print::PageSettings pagesettings;
-    std::string pagetext; ///< the print page, a line feed between its lines
+    print::Camera camera;
+    print::Page page;
+    print::MarginBoxes printdialog;
     Tips tips;
 
     std::filesystem::path workdir;  ///< where the data file is read and written; empty when it cannot be told
@@ -117,7 +126,7 @@ public:
     void mnuload_Click();
     void mnusave_Click();
     void userload();
-    void Saveas();
+    void Saveas(SaveKind kind);
 
     // Notes in, chord out
     void key_Click(int index);   ///< piano key 0..24, or `resetkey`
@@ -178,6 +187,56 @@ public:
     void txtx_DragDrop(int target, int source); ///< exchanges two places, 0..50
     void endform();                             ///< closes the arrange screen
 
+    // Chord camera
+    void photochord();      ///< takes a snapshot; the first one asks for the mode instead
+    void cmdguitar_Click(); ///< the question's buttons: choose the mode and take the snapshot
+    void cmdpiano_Click();
+    void mnuguitar_Click(); ///< menu items of two screens: choose the mode for the snapshots to come
+    void mnupiano_Click();
+    void menuchordtype();
+    void chordsnap();
+    void printfill(); ///< writes the pending block to the page, or only a heading if nothing is pending
+    void allclear();
+    void mnuphotoclear_Click();
+    void ccamera_cmdret_Click();
+    void ccamera_cmdview_Click();
+    void ccamera_cmdclear_Click();
+
+    // Print page
+    void mnuviewprint_Click(); ///< opens the page; one that is open keeps what it shows
+    void rtbprint_Change(const std::string& text);
+    void txtchar_Change(const std::string& text);
+    void txtspace_Change(const std::string& text);
+    void txtfont_Change(const std::string& text);
+    void chkmult_Click(bool checked);
+    void chkalt_Click(bool checked);
+    void cmdchardown_Click();
+    void cmdcharup_Click();
+    void cmdspacedown_Click();
+    void cmdspaceup_Click();
+    void cmddownfont_Click();
+    void cmdupfont_Click();
+    void cmdfonthelp_Click();
+    void cmdshow_Click();
+    void mprint_cmdclear_Click();
+    void charsize();   ///< the size that suits the characters per line
+    void changefont(); ///< shows the page in the stored size
+    void mexit();      ///< leaves the page: stores its boxes and closes it; nothing if it is not open
+    /// Shows a text that was read from a file as the page, after a clear. Its line ends become line feeds.
+    void loadpage(const std::string& text);
+    void mprint_mnusave_Click();
+
+    // Printing
+    void chordprint(); ///< opens the print dialog
+    void txttop_Change(const std::string& text);
+    void txtleft_Change(const std::string& text);
+    void cmdtopdown_Click();
+    void cmdtopup_Click();
+    void cmdleftdown_Click();
+    void cmdleftup_Click();
+    void cmdprint_Click();
+    void cmdcancel_Click();
+
 private:
     void setnote(std::size_t i, const std::string& text);
     void setcordtyp1(const std::string& text);
@@ -198,6 +257,17 @@ private:
     custom::Settings settings() const;
     void applysettings(const custom::Header& read);
     void loadtext(const std::string& text);
+    bool photograph();
+    void placesnapshot();
+    void showcamera();
+    void setcameramode(print::CameraMode mode);
+    void openpage();
+    bool movenumber(const print::Step& button, std::string& box, std::int16_t& setting);
+    void printpages(const std::string& text);
+    std::optional<std::filesystem::path> pickpdf();
+    /// Lets the user pick a file to save to, and asks before one is overwritten. A name without an ending gets
+    /// `ending`.
+    std::optional<std::filesystem::path> picksave(std::span<const ui::FileFilter> filters, const char* ending);
 
     ui::Desktop& desktop;
     bool keepfirst = false; ///< the data file holds what was not read; it is kept beside before it is overwritten

@@ -22,6 +22,7 @@ void Session::initmain()
     datafilename = "membank.txt";
     startdir = workdir;
     pagesettings = {};
+    page.show(pagesettings);
 }
 
 void Session::initvariables()
@@ -57,6 +58,7 @@ void Session::tonefretexit()
     customshown = false;
     arrangeshown = false;
     try {
+        mexit();
         checksave();
         if (customchanged)
             savecustom();

@@ -7,6 +7,7 @@
 #include <optional>
 #include <span>
 #include <string>
+#include <vector>
 
 namespace ui {
 
@@ -23,10 +24,24 @@ struct FileFilter {
 };
 
 /// The screens that stand over the main screen.
-enum class Screen : std::uint8_t { frmretune, custom, arrange };
+enum class Screen : std::uint8_t { frmretune, custom, arrange, ccamera, camquestion, mprint, printdialog };
+
+/// Room on a page of paper, upright, for characters of one size.
+struct PaperRoom {
+    int characters; ///< side by side, from the left edge that can be printed on
+    int lines;      ///< one below the other
+};
+
+/// Pages to be printed as one job, upright, in Courier New.
+struct PrintJob {
+    std::string name;                            ///< by which the printer lists it
+    int points;                                  ///< size of the characters
+    std::vector<std::vector<std::string>> pages; ///< lines from the top; they fit the paper
+    std::filesystem::path pdf;                   ///< the file to be written instead of printing; empty: print
+};
 
 /// What the program asks of a person and a desktop. The screens give a real one, tests one that records and answers.
-/// Nothing else shows a message box or opens and closes a screen.
+/// Nothing else shows a message box, picks a file, opens and closes a screen, prints or beeps.
 class Desktop {
 public:
     Desktop() = default;
@@ -48,6 +63,19 @@ public:
     /// Shows a screen; one that is open comes to the front. Returns at once.
     virtual void open(Screen screen) = 0;
     virtual void close(Screen screen) = 0;
+
+    /// The sound of the desktop, once.
+    virtual void beep() = 0;
+
+    /// Whether there is a printer, the default one or any other.
+    virtual bool hasprinter() = 0;
+
+    /// Room on the printer's paper for characters of `points`; without a printer, on the paper of a PDF file.
+    virtual PaperRoom paperroom(int points) = 0;
+
+    /// Prints to the default printer, or to the first one where none is the default, or writes the PDF file. Adds no
+    /// margins, page numbers or line breaks. Returns why it failed; empty: it did not.
+    virtual std::string print(const PrintJob& job) = 0;
 
     /// Hides and closes every screen, the main screen last, and ends the program.
     virtual void leave() = 0;

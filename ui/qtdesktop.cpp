@@ -101,4 +101,9 @@ void QtDesktop::leave()
     QApplication::quit();
 }
 
+void QtDesktop::beep()
+{
+    QApplication::beep();
+}
+
 } // namespace ui

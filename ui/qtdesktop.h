@@ -31,6 +31,10 @@ public:
     void open(Screen screen) override;
     void close(Screen screen) override;
     void leave() override;
+    void beep() override;
+    bool hasprinter() override;
+    PaperRoom paperroom(int points) override;
+    std::string print(const PrintJob& job) override;
 
 private:
     QWidget* owner() const;

@@ -70,7 +70,7 @@ TEST_F(LoadSave, emptyPage_savesTheDataAlone)
 
 TEST_F(LoadSave, page_standsBeforeTheData)
 {
-    s.session.pagetext = "C major\n\nD";
+    s.session.page.text = "C major\n\nD";
     save("mine.txt");
     EXPECT_EQ(directory.read("mine.txt"), "C major\n\nD\r\n" + guitar + "\r\n");
 }
@@ -109,7 +109,7 @@ TEST_F(LoadSave, fileThatCannotBeWritten_isToldByNameAndReason)
 
 TEST_F(LoadSave, fileThatCannotBeRead_isToldAndChangesNothing)
 {
-    s.session.pagetext = "page";
+    s.session.page.text = "page";
     s.session.customtable[0] = {"A", "0349279B"};
     fs::create_directory("folder");
     load("none.txt");
@@ -118,7 +118,7 @@ TEST_F(LoadSave, fileThatCannotBeRead_isToldAndChangesNothing)
               (std::vector<Told>{
                   {ui::Icon::critical, "Cannot read " + named("none.txt").string() + "\nNo such file or directory"},
                   {ui::Icon::critical, "Cannot read " + named("folder").string() + "\nIs a directory"}}));
-    EXPECT_EQ(s.session.pagetext, "page");
+    EXPECT_EQ(s.session.page.text, "page");
     EXPECT_EQ(s.session.customtable[0].name, "A");
     EXPECT_FALSE(s.session.customchanged);
 }
@@ -144,10 +144,10 @@ TEST_F(LoadSave, data_isAppliedAndSavedAtTheEnd)
 
 TEST_F(LoadSave, data_leavesThePage)
 {
-    s.session.pagetext = "page";
+    s.session.page.text = "page";
     directory.write("mine.txt", guitar);
     load("mine.txt");
-    EXPECT_EQ(s.session.pagetext, "page");
+    EXPECT_EQ(s.session.page.text, "page");
 }
 
 TEST_F(LoadSave, brokenData_isToldAndWhatIsWholeTaken)
@@ -165,13 +165,13 @@ TEST_F(LoadSave, brokenData_isToldAndWhatIsWholeTaken)
 
 TEST_F(LoadSave, pageWithData_loadsBoth)
 {
-    s.session.pagetext = "C major\n";
+    s.session.page.text = "C major\n";
     s.session.customtable[0] = {"A", "0349279B"};
     save("both.txt");
-    s.session.pagetext.clear();
+    s.session.page.text.clear();
     s.session.customtable = {};
     load("both.txt");
-    EXPECT_EQ(s.session.pagetext, "C major\n");
+    EXPECT_EQ(s.session.page.text, "C major\n");
     EXPECT_EQ(s.session.customtable[0].name, "A");
     EXPECT_TRUE(s.session.customchanged);
 }
@@ -181,15 +181,15 @@ TEST_F(LoadSave, otherText_isAPage)
     s.session.customtable[0] = {"A", "0349279B"};
     for (const char* bytes : {"TONEFRET:x", "C\r\nTonefret:;", "Caf\xE9", ""}) {
         directory.write("page.txt", bytes);
-        s.session.pagetext = "former";
+        s.session.page.text = "former";
         load("page.txt");
         EXPECT_EQ(s.session.customtable[0].name, "A") << bytes;
         EXPECT_FALSE(s.session.customchanged) << bytes;
     }
-    EXPECT_EQ(s.session.pagetext, "");
+    EXPECT_EQ(s.session.page.text, "");
     directory.write("page.txt", "Caf\xE9\r\nD\r\n");
     load("page.txt");
-    EXPECT_EQ(s.session.pagetext, "Caf\xC3\xA9\nD\n");
+    EXPECT_EQ(s.session.page.text, "Caf\xC3\xA9\nD\n");
 }
 
 TEST_F(LoadSave, saveToAPickedFile_isNotWhatTheEndCompares)

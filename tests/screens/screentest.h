@@ -22,6 +22,8 @@ class QuietDesktop : public ui::QtDesktop {
 public:
     std::vector<Told> told;
     std::deque<std::filesystem::path> files; ///< to be picked; none left: cancelled
+    std::vector<ui::PrintJob> printed;
+    int beeps = 0;
 
     std::vector<Asked> asked;
     std::deque<ui::Answer> answers; ///< to the next questions
@@ -45,6 +47,13 @@ public:
         files.pop_front();
         return picked;
     }
+    bool hasprinter() override { return true; }
+    std::string print(const ui::PrintJob& job) override
+    {
+        printed.push_back(job);
+        return {};
+    }
+    void beep() override { ++beeps; }
 };
 
 inline std::string str(const QString& text)

@@ -52,4 +52,16 @@ void RecordingDesktop::leave()
     ++left;
 }
 
+ui::PaperRoom RecordingDesktop::paperroom(int points)
+{
+    paperasked.push_back(points);
+    return room;
+}
+
+std::string RecordingDesktop::print(const ui::PrintJob& job)
+{
+    printed.push_back(job);
+    return printfailure;
+}
+
 } // namespace tests

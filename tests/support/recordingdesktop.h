@@ -42,6 +42,12 @@ public:
     std::vector<ui::Screen> opened;
     std::vector<ui::Screen> closed;
     int left = 0; ///< how often the program was ended
+    int beeps = 0;
+    bool printer = true;
+    ui::PaperRoom room{80, 60};
+    std::vector<int> paperasked; ///< points for which the paper's room was asked
+    std::string printfailure;    ///< why printing fails; empty: it does not
+    std::vector<ui::PrintJob> printed;
 
     void tell(ui::Icon icon, const std::string& text) override;
     ui::Answer ask(const std::string& text, const std::string& title) override;
@@ -50,6 +56,10 @@ public:
     void open(ui::Screen screen) override;
     void close(ui::Screen screen) override;
     void leave() override;
+    void beep() override { ++beeps; }
+    bool hasprinter() override { return printer; }
+    ui::PaperRoom paperroom(int points) override;
+    std::string print(const ui::PrintJob& job) override;
 };
 
 } // namespace tests

@@ -1,0 +1,19 @@
+// SPDX-FileCopyrightText: 2026 The tonefret developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "ui/look.h"
+
+#include <QWidget>
+
+namespace print {
+
+/// A camera, made of five shapes that bear names.
+class CameraPicture : public QWidget {
+    Q_OBJECT
+
+public:
+    CameraPicture(const ui::Look& shown, QWidget* parent);
+};
+
+} // namespace print
