@@ -22,10 +22,20 @@ struct MenuRow {
     Kind kind;
     const char* name;
     const char* caption;
-    void (Session::*handler)() = nullptr; ///< none: nothing to do yet, the item is disabled
-    bool SpellingMarks::*mark = nullptr;  ///< the state of its check mark
-    bool checked = false;                 ///< the same where nothing changes it
+    void (Session::*handler)() = nullptr;   ///< none: nothing to do yet, the item is disabled
+    bool (*mark)(const Session&) = nullptr; ///< the state of its check mark
 };
+
+template <bool SpellingMarks::*Mark>
+bool spelling(const Session& session)
+{
+    return session.marks.*Mark;
+}
+
+bool tips(const Session& session)
+{
+    return session.mnutips;
+}
 
 // clang-format off
 constexpr auto rows = std::to_array<MenuRow>({
@@ -37,15 +47,15 @@ constexpr auto rows = std::to_array<MenuRow>({
   { Kind::menu,      "mnuedit",       "Edit and Custom" },
   { Kind::item,      "mnucustom",     "Edit Custom Settings" },
   { Kind::item,      "mnuarrange",    "Arrange Custom Order" },
-  { Kind::check,     "mnutips",       "Toggle main tips",                            nullptr,                  nullptr, true },
+  { Kind::check,     "mnutips",       "Toggle main tips",                            &Session::mnutips_Click,  tips },
   { Kind::menu,      "mnuflattype",   "Sharps and Flats" },
-  { Kind::check,     "mnusharp",      "Mostly Sharps",                               &Session::dosharps,       &SpellingMarks::mnusharp },
-  { Kind::check,     "mnuflat",       "Mostly Flats",                                &Session::doflats,        &SpellingMarks::mnuflat },
-  { Kind::check,     "mnumix1",       "Mix1 (C#,Eb,F#,Ab,Bb)",                       &Session::domix1,         &SpellingMarks::mnumix1 },
-  { Kind::check,     "mnumix2",       "Mix2 (C#,Eb,F#,G#,Bb)",                       &Session::domix2,         &SpellingMarks::mnumix2 },
-  { Kind::check,     "mnuauto",       "Automatic Chord Sharps and Flats",            &Session::doauto,         &SpellingMarks::mnuauto },
+  { Kind::check,     "mnusharp",      "Mostly Sharps",                               &Session::dosharps,       spelling<&SpellingMarks::mnusharp> },
+  { Kind::check,     "mnuflat",       "Mostly Flats",                                &Session::doflats,        spelling<&SpellingMarks::mnuflat> },
+  { Kind::check,     "mnumix1",       "Mix1 (C#,Eb,F#,Ab,Bb)",                       &Session::domix1,         spelling<&SpellingMarks::mnumix1> },
+  { Kind::check,     "mnumix2",       "Mix2 (C#,Eb,F#,G#,Bb)",                       &Session::domix2,         spelling<&SpellingMarks::mnumix2> },
+  { Kind::check,     "mnuauto",       "Automatic Chord Sharps and Flats",            &Session::doauto,         spelling<&SpellingMarks::mnuauto> },
   { Kind::separator, "mnu5",          "" },
-  { Kind::check,     "mnuboth",       "Keyboard Itself - show both",                 &Session::mnuboth_Click,  &SpellingMarks::mnuboth },
+  { Kind::check,     "mnuboth",       "Keyboard Itself - show both",                 &Session::mnuboth_Click,  spelling<&SpellingMarks::mnuboth> },
   { Kind::menu,      "mnuprint",      "Print Chords" },
   { Kind::item,      "mnusnap",       "Snapshot Chord Text" },
   { Kind::item,      "mnuviewprint",  "View Print Text" },
@@ -54,9 +64,9 @@ constexpr auto rows = std::to_array<MenuRow>({
   { Kind::item,      "mnuphotoclear", "Clear Photos and Reset Print Data" },
   { Kind::item,      "mnuprintchord", "Print the chords" },
   { Kind::menu,      "mnuhelp",       "Help" },
-  { Kind::item,      "mnubhelp",      "Basic Help" },
-  { Kind::item,      "mnuchelp",      "Help - Complete" },
-  { Kind::item,      "mnuabout",      "About" },
+  { Kind::item,      "mnubhelp",      "Basic Help",                                  &Session::mnubhelp_Click },
+  { Kind::item,      "mnuchelp",      "Help - Complete",                             &Session::mnuchelp_Click },
+  { Kind::item,      "mnuabout",      "About",                                       &Session::mnuabout_Click },
 });
 // clang-format on
 static_assert(rows.front().kind == Kind::menu);
@@ -65,7 +75,6 @@ QAction* additem(QMenu* menu, const MenuRow& row, Session& session, ui::Stage& s
 {
     QAction* action = menu->addAction(QString::fromLatin1(row.caption));
     action->setCheckable(row.kind == Kind::check);
-    action->setChecked(row.checked);
     action->setEnabled(row.handler != nullptr);
     if (row.handler)
         QObject::connect(action, &QAction::triggered, action,
@@ -102,7 +111,7 @@ Menus::Menus(QMenuBar& bar, Session& shown, ui::Stage& entered) : session(shown)
 void Menus::display()
 {
     for (const Marked& item : marked)
-        item.action->setChecked(session.marks.*item.mark);
+        item.action->setChecked(item.mark(session));
 }
 
 } // namespace mainscreen

@@ -22,7 +22,7 @@ public:
 private:
     struct Marked {
         QAction* action;
-        bool SpellingMarks::*mark;
+        bool (*mark)(const Session&);
     };
 
     Session& session;

@@ -31,6 +31,7 @@ void Session::initvariables()
     gureset();
     keyboard.keyreset();
     tips.complete();
+    toolstore();
 }
 
 void Session::dataload()

@@ -7,10 +7,10 @@
 
 namespace ui {
 
-enum class Icon : std::uint8_t { information, critical };
+enum class Icon : std::uint8_t { plain, information, critical };
 
 /// The screens that stand over the main screen.
-enum class Screen : std::uint8_t { frmretune };
+enum class Screen : std::uint8_t { frmretune, helpinfo, mhelp, frmAbout };
 
 /// What the program asks of a person and a desktop. The screens give a real one, tests one that records and answers.
 /// Nothing else shows a message box or opens and closes a screen.

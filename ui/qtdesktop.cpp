@@ -6,13 +6,27 @@
 #include <QMessageBox>
 
 namespace ui {
+namespace {
+
+QMessageBox::Icon boxicon(Icon icon)
+{
+    switch (icon) {
+    case Icon::information:
+        return QMessageBox::Information;
+    case Icon::critical:
+        return QMessageBox::Critical;
+    default:
+        return QMessageBox::NoIcon;
+    }
+}
+
+} // namespace
 
 void QtDesktop::tell(Icon icon, const std::string& text)
 {
     showall();
-    QMessageBox box(icon == Icon::critical ? QMessageBox::Critical : QMessageBox::Information,
-                    QApplication::applicationDisplayName(), QString::fromStdString(text), QMessageBox::Ok,
-                    QApplication::activeWindow() ? QApplication::activeWindow() : mainscreen.data());
+    QMessageBox box(boxicon(icon), QApplication::applicationDisplayName(), QString::fromStdString(text),
+                    QMessageBox::Ok, QApplication::activeWindow() ? QApplication::activeWindow() : mainscreen.data());
     box.setTextFormat(Qt::PlainText);
     box.exec();
 }
