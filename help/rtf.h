@@ -15,9 +15,9 @@ struct RunFormat {
     bool bold = false;
     bool italic = false;
     bool underline = false;
-    bool fixed = false;                  ///< in a typewriter's type
-    int size = 24;                       ///< half-points, 2 to 400
-    std::optional<std::uint32_t> colour; ///< 0xRRGGBB; none: the reader's own
+    bool fixed = false;                    ///< in a typewriter's type
+    int size = 24;                         ///< half-points, 2 to 400
+    std::optional<std::uint32_t> colour{}; ///< 0xRRGGBB; none: the reader's own
 
     bool operator==(const RunFormat&) const = default;
 };
