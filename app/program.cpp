@@ -2,7 +2,15 @@
 // SPDX-License-Identifier: MIT
 #include "app/program.h"
 
+#include "app/portrait.h"
+#include "help/aboutscreen.h"
+#include "help/basichelpscreen.h"
+#include "help/documents.h"
+#include "help/helpscreen.h"
+#include "help/picturescreen.h"
 #include "ui/text.h"
+
+#include <QCoreApplication>
 
 namespace app {
 
@@ -13,6 +21,9 @@ Program::Program(ui::QtDesktop& opened)
     desktop.beforeasking([this] { stage.showall(); });
     desktop.setmain(&mainscreen);
     desktop.add(ui::Screen::frmretune, [this](QWidget* owner) { return makeretune(owner); });
+    desktop.add(ui::Screen::helpinfo, [this](QWidget* owner) { return makehelp(owner); });
+    desktop.add(ui::Screen::mhelp, [this](QWidget* owner) { return makebasichelp(owner); });
+    desktop.add(ui::Screen::frmAbout, [this](QWidget* owner) { return makeabout(owner); });
 }
 
 void Program::start()
@@ -37,6 +48,39 @@ QWidget* Program::makeretune(QWidget* owner)
     QObject::connect(retunescreen, &QDialog::finished, retunescreen,
                      [this] { stage.act([&] { session.frmretune_Unload(); }); });
     return retunescreen;
+}
+
+QWidget* Program::makehelp(QWidget* owner)
+{
+    const auto folders =
+        help::helpfolders(session.startdir, QCoreApplication::applicationDirPath().toStdU16String(), TONEFRET_DATADIR);
+    const auto document = help::loaddata(help::completehelp, folders);
+    auto* screen = new help::HelpScreen(look, help::readrtf(document.value_or("")), owner);
+    QObject::connect(screen, &help::HelpScreen::cmdpic_Click, screen, [this, screen] {
+        auto* picture = new help::PictureScreen(look, portrait().whole, screen);
+        picture->setAttribute(Qt::WA_DeleteOnClose);
+        picture->show();
+    });
+    return screen;
+}
+
+QWidget* Program::makebasichelp(QWidget* owner)
+{
+    const Portrait pictures = portrait();
+    auto* screen = new help::BasicHelpScreen(look, pictures.upper, pictures.lower, owner);
+    QObject::connect(screen, &help::BasicHelpScreen::cmdhelp2_Click, screen,
+                     [this] { stage.act([&] { session.cmdhelp2_Click(); }); });
+    return screen;
+}
+
+QWidget* Program::makeabout(QWidget* owner)
+{
+    constexpr int iconsize = 64;
+    const QPixmap icon = programicon(qRound(iconsize * look.zoom()), mainscreen.devicePixelRatioF());
+    auto* screen = new help::AboutScreen(look, icon, QStringLiteral(TONEFRET_VERSION), owner);
+    QObject::connect(screen, &help::AboutScreen::cmdSysInfo_Click, screen,
+                     [this] { stage.act([&] { help::StartSysInfo(*system, desktop); }); });
+    return screen;
 }
 
 } // namespace app

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "help/systeminfo.h"
 #include "instruments/retunescreen.h"
 #include "mainscreen/mainscreen.h"
 #include "mainscreen/session.h"
@@ -10,6 +11,8 @@
 #include "ui/stage.h"
 
 #include <QPointer>
+
+#include <memory>
 
 namespace app {
 
@@ -31,8 +34,12 @@ public:
 private:
     void display();
     QWidget* makeretune(QWidget* owner);
+    QWidget* makehelp(QWidget* owner);
+    QWidget* makebasichelp(QWidget* owner);
+    QWidget* makeabout(QWidget* owner);
 
     QPointer<instruments::RetuneScreen> retunescreen;
+    std::unique_ptr<help::System> system = help::thissystem();
 };
 
 } // namespace app

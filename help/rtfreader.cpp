@@ -51,8 +51,7 @@ std::vector<Paragraph> RtfReader::read()
             dobyte(token.byte);
         }
     }
-    if (!building.runs.empty())
-        endparagraph();
+    endtext();
     return std::move(paragraphs);
 }
 
@@ -71,6 +70,8 @@ void RtfReader::closegroup()
     if (unsaved > 0) {
         --unsaved;
     } else if (!groups.empty()) {
+        if (groups.size() == 1)
+            endtext(); // while the last paragraph's form is still in force
         now = std::move(groups.back());
         groups.pop_back();
     }
@@ -168,6 +169,12 @@ void RtfReader::appendtext(char32_t character)
     if (building.runs.empty() || building.runs.back().format != format)
         building.runs.push_back({{}, format});
     appendutf8(building.runs.back().text, character);
+}
+
+void RtfReader::endtext()
+{
+    if (!building.runs.empty() || highsurrogate)
+        endparagraph();
 }
 
 void RtfReader::endparagraph()

@@ -54,6 +54,7 @@ private:
     void addunit(char32_t unit);
     void appendtext(char32_t character);
     void endparagraph();
+    void endtext();
     Font currentfont() const;
 
     void bold(int on) { now.run.bold = on != 0; }

@@ -40,6 +40,7 @@ protected:
     void focusInEvent(QFocusEvent* event) override;
 
 private:
+    QString caption() const; ///< the text without the mark of its key
     QColor face() const;
     QColor ink() const;
 

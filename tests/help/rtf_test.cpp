@@ -84,9 +84,9 @@ const TextCase textcases[] = {
   { "bin_longer_than_text",    R"(a\bin999999 b)",                               {"a"} },
   { "negative_bin",            R"(a\bin-5 b)",                                   {"ab"} },
   { "huge_number",             R"(\fs99999999999999999999 a\li-99999999999 b)",  {"ab"} },
-  { "half_an_escape",          R"(a\'4)",                                        {"a\x04"} },
+  { "half_an_escape",          R"(a\'4)",                                        {"a"} },
   { "bad_escape",              R"(a\'zz)",                                       {"azz"} },
-  { "too_many_ends",           R"(a}}}b)",                                       {"ab"} },
+  { "too_many_ends",           R"(a}}}b)",                                       {"a", "b"} },
   { "too_few_ends",            R"(a{{{b)",                                       {"ab"} },
 };
 // clang-format on
