@@ -64,9 +64,9 @@ inline constexpr auto basictexts = std::to_array<BasicText>({
     "Notes can also be entered via the guitar keyboard with your mouse. Press reset first, and then click"
     " the desired guitar notes on the fretboard. Do not click the notes closest to the neck since those "
     "are used for custom retuning." },
-  { "Label20", BasicText::Kind::heading, 1,
+  { "Label20", BasicText::Kind::heading, 2,
     "Guitar and Stringed Instruments Chord-Camera" },
-  { "Label21", BasicText::Kind::paragraph, 1,
+  { "Label21", BasicText::Kind::paragraph, 2,
     "Snaps a picture of chord fingering and sends it to preliminary print area. When done, click the "
     "\"done\" camera button to go to the print area." },
   { "Label23", BasicText::Kind::heading, 2,

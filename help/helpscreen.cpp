@@ -8,6 +8,7 @@
 #include "ui/text.h"
 
 #include <QGridLayout>
+#include <QHBoxLayout>
 #include <QLabel>
 #include <QScreen>
 #include <QScrollBar>
@@ -113,14 +114,17 @@ void HelpScreen::arrange()
     grid->setContentsMargins(room, room, room, room);
     grid->setSpacing(qRound(8 * look.zoom()));
     grid->addWidget(label(look, "index", "Index", this), 0, 0, Qt::AlignBottom);
-    grid->addWidget(findbut, 0, 1, Qt::AlignLeft);
-    grid->addWidget(label(look, "entrybelow", "entry below", this), 0, 2, Qt::AlignVCenter);
+    auto* find = new QHBoxLayout;
+    find->addWidget(findbut);
+    find->addWidget(label(look, "entrybelow", "entry below", this));
+    find->addStretch(1);
+    grid->addLayout(find, 0, 1);
     grid->addWidget(cbo1, 1, 0);
-    grid->addWidget(findtext, 1, 1, 1, 2);
-    grid->addWidget(cmdpic, 1, 4);
-    grid->addWidget(returnbut, 1, 5);
-    grid->addWidget(helptext, 2, 0, 1, 6);
-    grid->setColumnStretch(3, 1);
+    grid->addWidget(findtext, 1, 1);
+    grid->addWidget(cmdpic, 1, 3);
+    grid->addWidget(returnbut, 1, 4);
+    grid->addWidget(helptext, 2, 0, 1, 5);
+    grid->setColumnStretch(2, 1);
 
     const std::array<QWidget*, 6> order{cbo1, findtext, findbut, helptext, cmdpic, returnbut};
     for (std::size_t i = 1; i < order.size(); ++i)

@@ -5,6 +5,7 @@
 
 #include "app/program.h"
 
+#include <QAction>
 #include <QApplication>
 #include <QComboBox>
 #include <QDir>
@@ -43,16 +44,27 @@ public:
         Q_EMIT list->activated(index);
     }
 
-    void keep(const char* name) const
+    void keep(const char* name) const { keep(name, program.mainscreen); }
+
+    /// Opens a screen by its item in the menus, keeps its picture and closes it.
+    void keepscreen(const char* name, const char* item, const char* screen) const
+    {
+        find<QAction>(item)->trigger();
+        auto* opened = find<QWidget>(screen);
+        keep(name, *opened);
+        opened->close();
+    }
+
+private:
+    void keep(const char* name, QWidget& screen) const
     {
         QApplication::processEvents();
         const QString path = folder.filePath(QString::fromLatin1(name) + QStringLiteral(".png"));
-        if (!program.mainscreen.grab().save(path))
+        if (!screen.grab().save(path))
             throw std::runtime_error("cannot write " + path.toStdString());
         QTextStream(stdout) << path << '\n';
     }
 
-private:
     template <typename Control>
     Control* find(const char* name) const
     {
@@ -104,6 +116,9 @@ void lightwalk(const QDir& folder)
     walker.keep("capo");
     walker.choose("cbopreset", "show all notes");
     walker.keep("ukulele");
+    walker.keepscreen("help", "mnuchelp", "helpinfo");
+    walker.keepscreen("basichelp", "mnubhelp", "mhelp");
+    walker.keepscreen("about", "mnuabout", "frmAbout");
 }
 
 void darkwalk(const QDir& folder)
@@ -120,6 +135,7 @@ void darkwalk(const QDir& folder)
     walker.click("key_2");
     walker.click("Crd_3");
     walker.keep("banjo");
+    walker.keepscreen("darkbasichelp", "mnubhelp", "mhelp");
 }
 
 } // namespace
