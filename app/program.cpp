@@ -56,12 +56,18 @@ QWidget* Program::makehelp(QWidget* owner)
         help::helpfolders(session.startdir, QCoreApplication::applicationDirPath().toStdU16String(), TONEFRET_DATADIR);
     const auto document = help::loaddata(help::completehelp, folders);
     auto* screen = new help::HelpScreen(look, help::readrtf(document.value_or("")), owner);
-    QObject::connect(screen, &help::HelpScreen::cmdpic_Click, screen, [this, screen] {
-        auto* picture = new help::PictureScreen(look, portrait().whole, screen);
-        picture->setAttribute(Qt::WA_DeleteOnClose);
-        picture->show();
-    });
+    QObject::connect(screen, &help::HelpScreen::cmdpic_Click, screen, [this, screen] { showpicture(screen); });
     return screen;
+}
+
+void Program::showpicture(QWidget* owner)
+{
+    if (!picturescreen || !picturescreen->isVisible())
+        picturescreen = new help::PictureScreen(look, portrait().whole, owner);
+    picturescreen->setAttribute(Qt::WA_DeleteOnClose);
+    picturescreen->show();
+    picturescreen->raise();
+    picturescreen->activateWindow();
 }
 
 QWidget* Program::makebasichelp(QWidget* owner)

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "help/picturescreen.h"
 #include "help/systeminfo.h"
 #include "instruments/retunescreen.h"
 #include "mainscreen/mainscreen.h"
@@ -35,10 +36,12 @@ private:
     void display();
     QWidget* makeretune(QWidget* owner);
     QWidget* makehelp(QWidget* owner);
+    void showpicture(QWidget* owner);
     QWidget* makebasichelp(QWidget* owner);
     QWidget* makeabout(QWidget* owner);
 
     QPointer<instruments::RetuneScreen> retunescreen;
+    QPointer<help::PictureScreen> picturescreen;
     std::unique_ptr<help::System> system = help::thissystem();
 };
 

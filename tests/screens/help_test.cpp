@@ -149,6 +149,8 @@ TEST_F(HelpViewer, picturebutton_showsTheNumberedMainScreen)
     EXPECT_TRUE(picture->isVisible());
     EXPECT_FALSE(control<QLabel>(QStringLiteral("mainpicture"), picture)->pixmap().isNull());
     EXPECT_EQ(textof(picture, "Label12"), "Guitar Fingering or Entry");
+    press(screen, "cmdpic");
+    EXPECT_EQ(screen->findChildren<QWidget*>(QStringLiteral("helppicture")).size(), 1);
 }
 
 TEST_F(HelpScreens, missingdocument_leavesTheAreaEmpty)
