@@ -8,6 +8,8 @@
 #include <QLabel>
 #include <QScreen>
 
+#include <utility>
+
 namespace help {
 namespace {
 
@@ -37,8 +39,8 @@ ui::Button* button(const ui::Look& look, const char* name, const char* caption, 
 
 } // namespace
 
-AboutScreen::AboutScreen(const ui::Look& shown, const QPixmap& icon, const QString& version, QWidget* owner)
-    : QDialog(owner), look(shown)
+AboutScreen::AboutScreen(ui::Look shown, const QPixmap& icon, const QString& version, QWidget* owner)
+    : QDialog(owner), look(std::move(shown))
 {
     setObjectName(QStringLiteral("frmAbout"));
     setWindowTitle(QStringLiteral("About tonefret"));

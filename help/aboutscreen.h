@@ -15,7 +15,7 @@ class AboutScreen : public QDialog {
 
 public:
     /// `version` is "major.minor.revision".
-    AboutScreen(const ui::Look& shown, const QPixmap& icon, const QString& version, QWidget* owner);
+    AboutScreen(ui::Look shown, const QPixmap& icon, const QString& version, QWidget* owner);
 
 Q_SIGNALS:
     void cmdSysInfo_Click();

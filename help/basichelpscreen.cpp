@@ -10,7 +10,9 @@
 #include <QScreen>
 #include <QVBoxLayout>
 
+#include <algorithm>
 #include <array>
+#include <utility>
 
 namespace help {
 namespace {
@@ -22,15 +24,15 @@ constexpr int captionsinrow = 3;
 
 } // namespace
 
-BasicHelpScreen::BasicHelpScreen(const ui::Look& shown, const QPixmap& upper, const QPixmap& lower, QWidget* owner)
-    : QDialog(owner, Qt::Window), look(shown)
+BasicHelpScreen::BasicHelpScreen(ui::Look shown, const QPixmap& upper, const QPixmap& lower, QWidget* owner)
+    : QDialog(owner, Qt::Window), look(std::move(shown))
 {
     setObjectName(QStringLiteral("mhelp"));
     setWindowTitle(QStringLiteral("vexlor 2000 tonefret basic help - note that more help is available by pressing the "
                                   "'more help' button"));
     const QSize display = screen()->availableSize() * share;
     look.setzoom(
-        std::min({shown.zoom(), display.width() / double(wanted.width()), display.height() / double(wanted.height())}));
+        std::min({look.zoom(), display.width() / double(wanted.width()), display.height() / double(wanted.height())}));
     setPalette(look.palettefor(look.theme().surface));
     auto* column = new QVBoxLayout(this);
     const int room = qRound(16 * look.zoom());

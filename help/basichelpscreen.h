@@ -16,7 +16,7 @@ class BasicHelpScreen : public QDialog {
 
 public:
     /// `upper` shows the keyboard and what stands beside it, `lower` the selectors and the fretboard.
-    BasicHelpScreen(const ui::Look& shown, const QPixmap& upper, const QPixmap& lower, QWidget* owner);
+    BasicHelpScreen(ui::Look shown, const QPixmap& upper, const QPixmap& lower, QWidget* owner);
 
 Q_SIGNALS:
     void cmdhelp2_Click();

@@ -14,6 +14,7 @@
 #include <QScrollBar>
 
 #include <array>
+#include <utility>
 
 namespace help {
 namespace {
@@ -40,9 +41,9 @@ QLabel* label(const ui::Look& look, const char* name, const char* text, QWidget*
 
 } // namespace
 
-HelpScreen::HelpScreen(const ui::Look& shown, const std::vector<Paragraph>& paragraphs, QWidget* owner)
+HelpScreen::HelpScreen(ui::Look shown, const std::vector<Paragraph>& paragraphs, QWidget* owner)
     : QDialog(owner, Qt::Window),
-      look(shown),
+      look(std::move(shown)),
       cbo1(new ui::SelectorBox(look, this)),
       findtext(new QLineEdit(this)),
       helptext(new QTextEdit(this))

@@ -18,8 +18,9 @@ class HelpScreen : public QDialog {
     Q_OBJECT
 
 public:
-    /// Shows `paragraphs`; none leave the area empty. Copies the look, since its own size follows from the display.
-    HelpScreen(const ui::Look& shown, const std::vector<Paragraph>& paragraphs, QWidget* owner);
+    /// Shows `paragraphs`; none leave the area empty. The look is its own: it stays as it was when the screen was
+    /// opened.
+    HelpScreen(ui::Look shown, const std::vector<Paragraph>& paragraphs, QWidget* owner);
 
 Q_SIGNALS:
     void cmdpic_Click(); ///< the picture of the main screen is wanted

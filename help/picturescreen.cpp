@@ -9,6 +9,9 @@
 #include <QScreen>
 #include <QVBoxLayout>
 
+#include <algorithm>
+#include <utility>
+
 namespace help {
 namespace {
 
@@ -19,14 +22,14 @@ constexpr int captionsinrow = 4;
 
 } // namespace
 
-PictureScreen::PictureScreen(const ui::Look& shown, const QPixmap& picture, QWidget* owner)
-    : QDialog(owner), look(shown)
+PictureScreen::PictureScreen(ui::Look shown, const QPixmap& picture, QWidget* owner)
+    : QDialog(owner), look(std::move(shown))
 {
     setObjectName(QStringLiteral("helppicture"));
     setWindowTitle(QStringLiteral("The main screen"));
     const QSize display = screen()->availableSize() * share;
     look.setzoom(
-        std::min({shown.zoom(), display.width() / double(wanted.width()), display.height() / double(wanted.height())}));
+        std::min({look.zoom(), display.width() / double(wanted.width()), display.height() / double(wanted.height())}));
     setPalette(look.palettefor(look.theme().surface));
     auto* column = new QVBoxLayout(this);
     const int room = qRound(16 * look.zoom());

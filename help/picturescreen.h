@@ -14,7 +14,7 @@ class PictureScreen : public QDialog {
     Q_OBJECT
 
 public:
-    PictureScreen(const ui::Look& shown, const QPixmap& picture, QWidget* owner);
+    PictureScreen(ui::Look shown, const QPixmap& picture, QWidget* owner);
 
 protected:
     void showEvent(QShowEvent* event) override;

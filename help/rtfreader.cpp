@@ -127,7 +127,7 @@ void RtfReader::dobyte(unsigned char byte)
     if (shown.symbol)
         return addcharacter(byte == symbolbullet ? bulletsign : byte);
     constexpr unsigned char upper = 0x80;
-    addcharacter(byte < upper ? byte : codepage(shown.page ? shown.page : page).upper.at(byte - upper));
+    addcharacter(byte < upper ? byte : codepage(shown.page != 0 ? shown.page : page).upper.at(byte - upper));
 }
 
 void RtfReader::addcolour()
@@ -152,9 +152,9 @@ void RtfReader::addcharacter(char32_t character)
 void RtfReader::addunit(char32_t unit)
 {
     const char32_t high = std::exchange(highsurrogate, 0);
-    if (high && islowsurrogate(unit))
+    if (high != 0 && islowsurrogate(unit))
         return appendtext(joined(high, unit));
-    if (high)
+    if (high != 0)
         appendtext(replacement);
     if (ishighsurrogate(unit))
         highsurrogate = unit;
@@ -173,7 +173,7 @@ void RtfReader::appendtext(char32_t character)
 
 void RtfReader::endtext()
 {
-    if (!building.runs.empty() || highsurrogate)
+    if (!building.runs.empty() || highsurrogate != 0)
         endparagraph();
 }
 
@@ -181,7 +181,7 @@ void RtfReader::endparagraph()
 {
     if (now.destination != Destination::text)
         return;
-    if (std::exchange(highsurrogate, 0))
+    if (std::exchange(highsurrogate, 0) != 0)
         appendtext(replacement);
     building.format = now.paragraph;
     if (building.format.intable)

@@ -80,8 +80,9 @@ Token Tokens::word()
     token.value = number();
     if (!rest.empty() && rest.front() == ' ')
         rest.remove_prefix(1);
-    if (token.word == "bin" && token.value.value_or(0) > 0)
-        rest.remove_prefix(std::min(rest.size(), static_cast<std::size_t>(*token.value)));
+    const int bytes = token.word == "bin" ? token.value.value_or(0) : 0;
+    if (bytes > 0)
+        rest.remove_prefix(std::min(rest.size(), static_cast<std::size_t>(bytes)));
     return token;
 }
 

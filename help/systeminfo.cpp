@@ -15,10 +15,10 @@ std::optional<std::string> toolpath(System& system)
 {
     if (auto path = system.GetKeyValue(RootKey::localmachine, toolkey, toolvalue))
         return path;
-    auto path = system.GetKeyValue(RootKey::localmachine, folderkey, foldervalue);
-    if (!path || !system.fileexists(*path += toolname))
+    const auto folder = system.GetKeyValue(RootKey::localmachine, folderkey, foldervalue);
+    if (!folder || !system.fileexists(*folder + toolname))
         return std::nullopt;
-    return path;
+    return *folder + toolname;
 }
 
 } // namespace
