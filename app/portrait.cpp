@@ -89,8 +89,8 @@ private:
 /// The place of a control; without a name, of the menus.
 QRect Sitter::place(const char* name) const
 {
-    const auto* control =
-        *name ? screen.findChild<QWidget*>(QString::fromLatin1(name)) : static_cast<QWidget*>(screen.menuBar());
+    const QLatin1String wanted(name);
+    const QWidget* control = wanted.isEmpty() ? screen.menuBar() : screen.findChild<QWidget*>(wanted);
     return control ? QRect(control->mapTo(&screen, QPoint()), control->size()) : QRect();
 }
 

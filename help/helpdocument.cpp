@@ -16,6 +16,18 @@ namespace {
 
 constexpr double pixelsperhalfpoint = 0.58; ///< at zoom 1: a little smaller than on paper, like the other screens
 
+constexpr int mostcells = 20'000; ///< a larger table is shown as paragraphs
+
+TablePlace placeof(const Paragraph& p)
+{
+    return p.cell.value_or(TablePlace{0, 0});
+}
+
+int columnof(const Paragraph& p)
+{
+    return placeof(p).column;
+}
+
 class Writer {
 public:
     Writer(QTextDocument& document, const ui::Look& shown) : cursor(&document), look(shown) {}
@@ -24,6 +36,7 @@ public:
     void table(std::span<const Paragraph> cells);
 
 private:
+    QTextTableFormat tableformat() const;
     QTextBlockFormat blockformat(const ParagraphFormat& format) const;
     QTextCharFormat charformat(const RunFormat& format) const;
     QColor readable(std::uint32_t colour) const;
@@ -52,26 +65,36 @@ void Writer::runs(QTextCursor& at, const Paragraph& p) const
 
 void Writer::table(std::span<const Paragraph> cells)
 {
-    const int firstrow = cells.front().cell->row;
-    const int rows = cells.back().cell->row - firstrow + 1;
-    const int columns = std::ranges::max(cells, {}, [](const Paragraph& p) { return p.cell->column; }).cell->column + 1;
+    const int firstrow = placeof(cells.front()).row;
+    const int rows = placeof(cells.back()).row - firstrow + 1;
+    const int columns = placeof(std::ranges::max(cells, {}, columnof)).column + 1;
+    if (rows > mostcells / columns) {
+        std::ranges::for_each(cells, [this](const Paragraph& p) { paragraph(p); });
+        return;
+    }
+    if (!fresh)
+        cursor.insertBlock({}, {});
+    const QTextTable* made = cursor.insertTable(rows, columns, tableformat());
+    for (const Paragraph& p : cells) {
+        const QTextTableCell cell = made->cellAt(placeof(p).row - firstrow, columnof(p));
+        QTextCursor within = cell.lastCursorPosition();
+        if (within != cell.firstCursorPosition())
+            within.insertBlock();
+        runs(within, p);
+    }
+    cursor.movePosition(QTextCursor::End);
+    fresh = true;
+}
+
+QTextTableFormat Writer::tableformat() const
+{
     QTextTableFormat format;
     format.setBorderStyle(QTextFrameFormat::BorderStyle_Solid);
     format.setBorderBrush(look.theme().hairline);
     format.setBorder(1);
     format.setBorderCollapse(true);
     format.setCellPadding(4 * look.zoom());
-    if (!fresh)
-        cursor.insertBlock({}, {});
-    QTextTable* made = cursor.insertTable(rows, columns, format);
-    for (const Paragraph& p : cells) {
-        QTextCursor within = made->cellAt(p.cell->row - firstrow, p.cell->column).lastCursorPosition();
-        if (within != made->cellAt(p.cell->row - firstrow, p.cell->column).firstCursorPosition())
-            within.insertBlock();
-        runs(within, p);
-    }
-    cursor.movePosition(QTextCursor::End);
-    fresh = true;
+    return format;
 }
 
 QTextBlockFormat Writer::blockformat(const ParagraphFormat& format) const

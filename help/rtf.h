@@ -46,7 +46,7 @@ struct ParagraphFormat {
     bool operator==(const ParagraphFormat&) const = default;
 };
 
-/// A place in a table: rows are counted through the whole document, columns from 0 to 31.
+/// A place in a table: rows that have cells are counted through the whole document, columns from 0 to 31.
 struct TablePlace {
     int row;
     int column;

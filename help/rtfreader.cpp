@@ -281,7 +281,8 @@ void RtfReader::cell(int /*unused*/)
 
 void RtfReader::row(int /*unused*/)
 {
-    ++place.row;
+    if (place.column > 0) // a row without cells is none
+        ++place.row;
     place.column = 0;
 }
 

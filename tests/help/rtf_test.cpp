@@ -148,7 +148,7 @@ TEST(Rtf, paragraphs_bearTheirForm)
 TEST(Rtf, cells_knowTheirPlaceInTheTable)
 {
     const auto read = readrtf(
-        inbraces(R"(\trowd\cellx1\cellx2\pard\intbl a\par b\cell c\cell\row\trowd\intbl d\cell\row\pard e\par)"));
+        inbraces(R"(\trowd\cellx1\cellx2\pard\intbl a\par b\cell c\cell\row\row\trowd\intbl d\cell\row\pard e\par)"));
     std::vector<std::string> places;
     for (const Paragraph& p : read)
         places.push_back(p.text() + (p.cell ? std::to_string(p.cell->row) + std::to_string(p.cell->column) : ""));

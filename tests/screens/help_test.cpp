@@ -181,6 +181,18 @@ TEST_F(HelpScreens, tableAndRuns_areShownInOrder)
     EXPECT_EQ(str(area->toPlainText()), "one\n\na\nb\nc\nd\ntwo");
 }
 
+TEST_F(HelpScreens, enormoustable_isShownAsParagraphs)
+{
+    std::string document = "{\\rtf1\\pard\\intbl a";
+    for (int column = 0; column < 32; ++column)
+        document += "\\cell";
+    for (int row = 0; row < 5000; ++row)
+        document += "\\row b\\cell";
+    help::HelpScreen screen(program.look, help::readrtf(document + "}"), nullptr);
+    const auto* area = control<QTextEdit>(QStringLiteral("helptext"), &screen);
+    EXPECT_EQ(area->document()->blockCount(), 5032);
+}
+
 TEST_F(HelpScreens, basichelp_hasEveryTextWordForWord)
 {
     QWidget* screen = open("mnubhelp", "mhelp");
