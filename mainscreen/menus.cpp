@@ -89,18 +89,13 @@ Menus::Menus(QMenuBar& bar, Session& shown, ui::Stage& entered) : session(shown)
     QMenu* menu = nullptr;
     for (const MenuRow& row : rows) {
         QAction* action = nullptr;
-        switch (row.kind) {
-        case Kind::menu:
+        if (row.kind == Kind::menu || !menu) { // the first row is one
             menu = bar.addMenu(QString::fromLatin1(row.caption));
             action = menu->menuAction();
-            break;
-        case Kind::separator:
+        } else if (row.kind == Kind::separator) {
             action = menu->addSeparator();
-            break;
-        case Kind::item:
-        case Kind::check:
+        } else {
             action = additem(menu, row, session, entered);
-            break;
         }
         action->setObjectName(QString::fromLatin1(row.name));
         if (row.mark)
