@@ -37,7 +37,7 @@ void check(const std::vector<help::Paragraph>& paragraphs)
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {
-    const std::string text(reinterpret_cast<const char*>(data), size);
+    const std::string text(data, data + size);
     check(help::readrtf(text));
     check(help::readrtf("{\\rtf1" + text));
     return 0;

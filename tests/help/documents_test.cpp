@@ -13,7 +13,7 @@ namespace fs = std::filesystem;
 /// Two folders of the test's own.
 class Documents : public testing::Test {
 protected:
-    Documents()
+    void SetUp() override
     {
         const auto* test = testing::UnitTest::GetInstance()->current_test_info();
         root = fs::path(testing::TempDir()) / (std::string("tonefret_documents_") + test->name());
@@ -23,7 +23,7 @@ protected:
         fs::create_directories(first);
         fs::create_directories(second);
     }
-    ~Documents() override
+    void TearDown() override
     {
         std::error_code left;
         fs::remove_all(root, left);

@@ -150,6 +150,7 @@ TEST(Rtf, cells_knowTheirPlaceInTheTable)
     const auto read = readrtf(
         inbraces(R"(\trowd\cellx1\cellx2\pard\intbl a\par b\cell c\cell\row\row\trowd\intbl d\cell\row\pard e\par)"));
     std::vector<std::string> places;
+    places.reserve(read.size());
     for (const Paragraph& p : read)
         places.push_back(p.text() + (p.cell ? std::to_string(p.cell->row) + std::to_string(p.cell->column) : ""));
     EXPECT_THAT(places, ElementsAre("a00", "b00", "c01", "d10", "e"));
