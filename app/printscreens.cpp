@@ -77,6 +77,7 @@ void PrintScreens::joinpage()
     join(page.data(), &PageScreen::cmdprint_Click, &Session::chordprint);
     join(page.data(), &PageScreen::mnuload_Click, &Session::userload);
     join(page.data(), &PageScreen::mnusave_Click, &Session::mprint_mnusave_Click);
+    join(page.data(), &PageScreen::mnuhelpcomplete_Click, &Session::mnuchelp_Click);
     join(page.data(), &PageScreen::mnuguitar_Click, &Session::mnuguitar_Click);
     join(page.data(), &PageScreen::mnupiano_Click, &Session::mnupiano_Click);
 }

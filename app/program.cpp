@@ -2,7 +2,15 @@
 // SPDX-License-Identifier: MIT
 #include "app/program.h"
 
+#include "app/portrait.h"
+#include "help/aboutscreen.h"
+#include "help/basichelpscreen.h"
+#include "help/documents.h"
+#include "help/helpscreen.h"
+#include "help/picturescreen.h"
 #include "ui/text.h"
+
+#include <QCoreApplication>
 
 namespace app {
 
@@ -16,6 +24,9 @@ Program::Program(ui::QtDesktop& opened)
     desktop.add(ui::Screen::custom, [this](QWidget* owner) { return makecustom(owner); });
     desktop.add(ui::Screen::arrange, [this](QWidget* owner) { return makearrange(owner); });
     printscreens.add(desktop);
+    desktop.add(ui::Screen::helpinfo, [this](QWidget* owner) { return makehelp(owner); });
+    desktop.add(ui::Screen::mhelp, [this](QWidget* owner) { return makebasichelp(owner); });
+    desktop.add(ui::Screen::frmAbout, [this](QWidget* owner) { return makeabout(owner); });
 }
 
 void Program::start()
@@ -60,6 +71,7 @@ QWidget* Program::makecustom(QWidget* owner)
     join(&CustomScreen::mnuload_Click, &Session::mnuload_Click);
     join(&CustomScreen::mnusave_Click, &Session::mnusave_Click);
     join(&CustomScreen::cmdsettings_Click, &Session::cmdsettings_Click);
+    join(&CustomScreen::mnuhelpcomplete_Click, &Session::mnuchelp_Click);
     join(&CustomScreen::cmdarrange_Click, &Session::mnuarrange_Click);
     return customscreen;
 }
@@ -73,6 +85,45 @@ QWidget* Program::makearrange(QWidget* owner)
     QObject::connect(arrangescreen, &ArrangeScreen::closed, arrangescreen,
                      [this] { stage.act([this] { session.endform(); }); });
     return arrangescreen;
+}
+
+QWidget* Program::makehelp(QWidget* owner)
+{
+    const auto folders =
+        help::helpfolders(session.startdir, QCoreApplication::applicationDirPath().toStdU16String(), TONEFRET_DATADIR);
+    const auto document = help::loaddata(help::completehelp, folders);
+    auto* screen = new help::HelpScreen(look, help::readrtf(document.value_or("")), owner);
+    QObject::connect(screen, &help::HelpScreen::cmdpic_Click, screen, [this, screen] { showpicture(screen); });
+    return screen;
+}
+
+void Program::showpicture(QWidget* owner)
+{
+    if (!picturescreen || !picturescreen->isVisible())
+        picturescreen = new help::PictureScreen(look, portrait().whole, owner);
+    picturescreen->setAttribute(Qt::WA_DeleteOnClose);
+    picturescreen->show();
+    picturescreen->raise();
+    picturescreen->activateWindow();
+}
+
+QWidget* Program::makebasichelp(QWidget* owner)
+{
+    const Portrait pictures = portrait();
+    auto* screen = new help::BasicHelpScreen(look, pictures.upper, pictures.lower, owner);
+    QObject::connect(screen, &help::BasicHelpScreen::cmdhelp2_Click, screen,
+                     [this] { stage.act([&] { session.cmdhelp2_Click(); }); });
+    return screen;
+}
+
+QWidget* Program::makeabout(QWidget* owner)
+{
+    constexpr int iconsize = 64;
+    const QPixmap icon = programicon(qRound(iconsize * look.zoom()), mainscreen.devicePixelRatioF());
+    auto* screen = new help::AboutScreen(look, icon, QStringLiteral(TONEFRET_VERSION), owner);
+    QObject::connect(screen, &help::AboutScreen::cmdSysInfo_Click, screen,
+                     [this] { stage.act([&] { help::StartSysInfo(*system, desktop); }); });
+    return screen;
 }
 
 } // namespace app

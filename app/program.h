@@ -5,6 +5,8 @@
 #include "app/printscreens.h"
 #include "custom/arrangescreen.h"
 #include "custom/customscreen.h"
+#include "help/picturescreen.h"
+#include "help/systeminfo.h"
 #include "instruments/retunescreen.h"
 #include "mainscreen/mainscreen.h"
 #include "mainscreen/session.h"
@@ -13,6 +15,8 @@
 #include "ui/stage.h"
 
 #include <QPointer>
+
+#include <memory>
 
 namespace app {
 
@@ -36,11 +40,17 @@ private:
     QWidget* makeretune(QWidget* owner);
     QWidget* makecustom(QWidget* owner);
     QWidget* makearrange(QWidget* owner);
+    QWidget* makehelp(QWidget* owner);
+    void showpicture(QWidget* owner);
+    QWidget* makebasichelp(QWidget* owner);
+    QWidget* makeabout(QWidget* owner);
 
     QPointer<instruments::RetuneScreen> retunescreen;
     QPointer<custom::CustomScreen> customscreen;
     QPointer<custom::ArrangeScreen> arrangescreen;
     PrintScreens printscreens{session, stage, look};
+    QPointer<help::PictureScreen> picturescreen;
+    std::unique_ptr<help::System> system = help::thissystem();
 };
 
 } // namespace app

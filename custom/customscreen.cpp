@@ -24,7 +24,7 @@ constexpr MenuRow fileitems[] = {
   { "mnuexit",         "Exit",               nullptr,                               true  },
 };
 constexpr MenuRow helpitems[] = {
-  { "mnuhelpcomplete", "Help (complete)",    &CustomScreen::mnuhelpcomplete_Click,  false },
+  { "mnuhelpcomplete", "Help (complete)",    &CustomScreen::mnuhelpcomplete_Click,  true  },
 };
 // clang-format on
 

@@ -27,7 +27,7 @@ void ChordPanel::display()
 void ChordPanel::displaytips(const Tips& tips)
 {
     for (std::size_t i = 0; i < Crd.size(); ++i)
-        Crd.at(i)->setToolTip(totext(tips.Crd.at(i)));
+        settip(Crd.at(i), tips.Crd.at(i));
 }
 
 } // namespace mainscreen

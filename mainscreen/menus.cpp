@@ -24,10 +24,25 @@ struct MenuRow {
     const char* name;
     const char* caption;
     void (Session::*handler)() = nullptr;   ///< none: nothing to do yet, the item is disabled
-    bool SpellingMarks::*mark = nullptr;    ///< the state of its check mark
-    bool checked = false;                   ///< the same where nothing changes it
-    bool print::ModeMarks::*mode = nullptr; ///< the same of the camera's
+    bool (*mark)(const Session&) = nullptr; ///< the state of its check mark
 };
+
+template <bool SpellingMarks::*Mark>
+bool spelling(const Session& session)
+{
+    return session.marks.*Mark;
+}
+
+template <bool print::ModeMarks::*Mark>
+bool mode(const Session& session)
+{
+    return session.camera.marks.*Mark;
+}
+
+bool tips(const Session& session)
+{
+    return session.mnutips;
+}
 
 // clang-format off
 constexpr auto rows = std::to_array<MenuRow>({
@@ -39,26 +54,26 @@ constexpr auto rows = std::to_array<MenuRow>({
   { Kind::menu,      "mnuedit",       "Edit and Custom" },
   { Kind::item,      "mnucustom",     "Edit Custom Settings",                        &Session::mnucustom_Click },
   { Kind::item,      "mnuarrange",    "Arrange Custom Order",                        &Session::mnuarrange_Click },
-  { Kind::check,     "mnutips",       "Toggle main tips",                            nullptr,                  nullptr, true },
+  { Kind::check,     "mnutips",       "Toggle main tips",                            &Session::mnutips_Click,  tips },
   { Kind::menu,      "mnuflattype",   "Sharps and Flats" },
-  { Kind::check,     "mnusharp",      "Mostly Sharps",                               &Session::dosharps,       &SpellingMarks::mnusharp },
-  { Kind::check,     "mnuflat",       "Mostly Flats",                                &Session::doflats,        &SpellingMarks::mnuflat },
-  { Kind::check,     "mnumix1",       "Mix1 (C#,Eb,F#,Ab,Bb)",                       &Session::domix1,         &SpellingMarks::mnumix1 },
-  { Kind::check,     "mnumix2",       "Mix2 (C#,Eb,F#,G#,Bb)",                       &Session::domix2,         &SpellingMarks::mnumix2 },
-  { Kind::check,     "mnuauto",       "Automatic Chord Sharps and Flats",            &Session::doauto,         &SpellingMarks::mnuauto },
+  { Kind::check,     "mnusharp",      "Mostly Sharps",                               &Session::dosharps,       spelling<&SpellingMarks::mnusharp> },
+  { Kind::check,     "mnuflat",       "Mostly Flats",                                &Session::doflats,        spelling<&SpellingMarks::mnuflat> },
+  { Kind::check,     "mnumix1",       "Mix1 (C#,Eb,F#,Ab,Bb)",                       &Session::domix1,         spelling<&SpellingMarks::mnumix1> },
+  { Kind::check,     "mnumix2",       "Mix2 (C#,Eb,F#,G#,Bb)",                       &Session::domix2,         spelling<&SpellingMarks::mnumix2> },
+  { Kind::check,     "mnuauto",       "Automatic Chord Sharps and Flats",            &Session::doauto,         spelling<&SpellingMarks::mnuauto> },
   { Kind::separator, "mnu5",          "" },
-  { Kind::check,     "mnuboth",       "Keyboard Itself - show both",                 &Session::mnuboth_Click,  &SpellingMarks::mnuboth },
+  { Kind::check,     "mnuboth",       "Keyboard Itself - show both",                 &Session::mnuboth_Click,  spelling<&SpellingMarks::mnuboth> },
   { Kind::menu,      "mnuprint",      "Print Chords" },
   { Kind::item,      "mnusnap",       "Snapshot Chord Text",                         &Session::photochord },
   { Kind::item,      "mnuviewprint",  "View Print Text",                             &Session::mnuviewprint_Click },
-  { Kind::check,     "mnuguitar",     "Stringed Instrument Chords - click to set",   &Session::mnuguitar_Click, nullptr, false, &print::ModeMarks::mnuguitar },
-  { Kind::check,     "mnupiano",      "Keyboard Chords - click to set",              &Session::mnupiano_Click,  nullptr, false, &print::ModeMarks::mnupiano },
+  { Kind::check,     "mnuguitar",     "Stringed Instrument Chords - click to set",   &Session::mnuguitar_Click, mode<&print::ModeMarks::mnuguitar> },
+  { Kind::check,     "mnupiano",      "Keyboard Chords - click to set",              &Session::mnupiano_Click, mode<&print::ModeMarks::mnupiano> },
   { Kind::item,      "mnuphotoclear", "Clear Photos and Reset Print Data",           &Session::mnuphotoclear_Click },
   { Kind::item,      "mnuprintchord", "Print the chords",                            &Session::chordprint },
   { Kind::menu,      "mnuhelp",       "Help" },
-  { Kind::item,      "mnubhelp",      "Basic Help" },
-  { Kind::item,      "mnuchelp",      "Help - Complete" },
-  { Kind::item,      "mnuabout",      "About" },
+  { Kind::item,      "mnubhelp",      "Basic Help",                                  &Session::mnubhelp_Click },
+  { Kind::item,      "mnuchelp",      "Help - Complete",                             &Session::mnuchelp_Click },
+  { Kind::item,      "mnuabout",      "About",                                       &Session::mnuabout_Click },
 });
 // clang-format on
 static_assert(rows.front().kind == Kind::menu);
@@ -76,7 +91,6 @@ QAction* additem(QMenu& menu, const MenuRow& row, Session& session, ui::Stage& s
     action->setObjectName(QString::fromLatin1(row.name));
     action->setSeparator(row.kind == Kind::separator);
     action->setCheckable(row.kind == Kind::check);
-    action->setChecked(row.checked);
     action->setEnabled(row.handler != nullptr || action->isSeparator());
     if (row.handler)
         QObject::connect(action, &QAction::triggered, action,
@@ -97,17 +111,13 @@ Menus::Menus(QMenuBar& bar, Session& shown, ui::Stage& entered) : session(shown)
         QAction* action = additem(*menu, row, session, entered);
         if (row.mark)
             marked.push_back({action, row.mark});
-        if (row.mode)
-            modes.push_back({action, row.mode});
     }
 }
 
 void Menus::display()
 {
     for (const Marked& item : marked)
-        item.action->setChecked(session.marks.*item.mark);
-    for (const Mode& item : modes)
-        item.action->setChecked(session.camera.marks.*item.mark);
+        item.action->setChecked(item.mark(session));
 }
 
 } // namespace mainscreen

@@ -22,17 +22,11 @@ public:
 private:
     struct Marked {
         QAction* action;
-        bool SpellingMarks::*mark;
-    };
-
-    struct Mode {
-        QAction* action;
-        bool print::ModeMarks::*mark;
+        bool (*mark)(const Session&);
     };
 
     Session& session;
     std::vector<Marked> marked;
-    std::vector<Mode> modes;
 };
 
 } // namespace mainscreen

@@ -169,7 +169,7 @@ void NeckPanel::displaycapo()
 void NeckPanel::displaytips(const Tips& tips)
 {
     for (std::size_t i = 0; i < Text1.size(); ++i)
-        Text1.at(i)->setToolTip(totext(tips.Text1.at(i)));
+        settip(Text1.at(i), tips.Text1.at(i));
 }
 
 } // namespace mainscreen

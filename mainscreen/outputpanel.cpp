@@ -79,11 +79,11 @@ void OutputPanel::display()
 void OutputPanel::displaytips(const Tips& tips)
 {
     for (std::size_t i = 0; i < note.size(); ++i)
-        note.at(i)->setToolTip(totext(tips.note.at(i)));
-    cordtyp1->setToolTip(totext(tips.cordtyp1));
-    cordtyp2->setToolTip(totext(tips.cordtyp2));
-    reset->setToolTip(totext(tips.key.at(resetkey)));
-    cordcam->setToolTip(totext(tips.cordcam));
+        settip(note.at(i), tips.note.at(i));
+    settip(cordtyp1, tips.cordtyp1);
+    settip(cordtyp2, tips.cordtyp2);
+    settip(reset, tips.key.at(resetkey));
+    settip(cordcam, tips.cordcam);
 }
 
 } // namespace mainscreen

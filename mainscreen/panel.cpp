@@ -11,6 +11,13 @@ void Panel::caption(const char* name, const char* text, ui::Type type, const ui:
     put(label, QString::fromLatin1(name), where);
 }
 
+void Panel::settip(QWidget* control, std::string_view tip)
+{
+    control->setToolTip(totext(tip));
+    if (!tip.empty())
+        control->setAccessibleDescription(totext(tip));
+}
+
 void Panel::onclick(QAbstractButton* button, void (Session::*handler)())
 {
     QObject::connect(button, &QAbstractButton::clicked, button,

@@ -39,6 +39,9 @@ protected:
     /// A text that stays as it is; it is named after what it says.
     void caption(const char* name, const char* text, ui::Type type, const ui::TwipRect& where);
 
+    /// The tip also describes the control to assistive technology, and does so while tips are switched off.
+    static void settip(QWidget* control, std::string_view tip);
+
     /// A click runs a handler of the session.
     void onclick(QAbstractButton* button, void (Session::*handler)());
     void onclick(QAbstractButton* button, void (Session::*handler)(int), int index);

@@ -85,7 +85,7 @@ void PianoPanel::display()
 void PianoPanel::displaytips(const Tips& tips)
 {
     for (std::size_t k = 0; k < key.size(); ++k)
-        key.at(k)->setToolTip(totext(tips.key.at(k)));
+        settip(key.at(k), tips.key.at(k));
 }
 
 } // namespace mainscreen

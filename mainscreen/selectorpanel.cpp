@@ -50,9 +50,9 @@ void SelectorPanel::display()
 void SelectorPanel::displaytips(const Tips& tips)
 {
     for (const List& list : lists)
-        list.box->setToolTip(totext(tips.*list.tip));
-    optd->setToolTip(totext(tips.optd));
-    optu->setToolTip(totext(tips.optu));
+        settip(list.box, tips.*list.tip);
+    settip(optd, tips.optd);
+    settip(optu, tips.optu);
 }
 
 } // namespace mainscreen

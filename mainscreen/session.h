@@ -103,6 +103,8 @@ public:
     print::Page page;
     print::MarginBoxes printdialog;
     Tips tips;
+    TipStore tipstore{}; ///< the tips that come back when they are switched on again
+    bool mnutips = true; ///< check mark of "Toggle main tips": the tips are on
 
     std::filesystem::path workdir;  ///< where the data file is read and written; empty when it cannot be told
     std::filesystem::path startdir; ///< where the help documents are looked for
@@ -127,6 +129,17 @@ public:
     void mnusave_Click();
     void userload();
     void Saveas(SaveKind kind);
+
+    // Tips and help
+    void toolstore();
+    void toolon();
+    void tooloff();
+    void tipson(); ///< switches the tips off or on again
+    void mnutips_Click();
+    void mnubhelp_Click();
+    void mnuchelp_Click();
+    void mnuabout_Click();
+    void cmdhelp2_Click(); ///< of the basic help: the complete help takes its place
 
     // Notes in, chord out
     void key_Click(int index);   ///< piano key 0..24, or `resetkey`

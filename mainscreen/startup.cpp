@@ -34,6 +34,7 @@ void Session::initvariables()
     gureset();
     keyboard.keyreset();
     tips.complete();
+    toolstore();
 }
 
 void Session::dataload()

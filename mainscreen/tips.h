@@ -10,6 +10,9 @@
 
 namespace mainscreen {
 
+/// The tips that are no fixed texts: 0 to 27 of the chord buttons, 32 to 46 of single controls; the rest is unused.
+using TipStore = std::array<std::string_view, 47>;
+
 /// The pop-up tip of every control of the main screen that has one, by the control's name. Empty: none.
 /// The arrays begin empty but for what is the control's own; `complete` fills them.
 struct Tips {
@@ -38,7 +41,17 @@ struct Tips {
     /// Gives the members of the arrays their common tip; a chord button that has a tip of its own keeps it.
     void complete();
 
+    /// Copies the tips that are no fixed texts, by their numbers in the store.
+    TipStore toolstore() const;
+    /// Gives every control its tip again: the members of most arrays their common one, the rest theirs from the store.
+    void toolon(const TipStore& tipstore);
+    /// Leaves no control a tip.
+    void tooloff();
+
     bool operator==(const Tips&) const = default;
+
+private:
+    void fillarrays();
 };
 
 } // namespace mainscreen

@@ -80,9 +80,9 @@ void TransposePanel::displaytips(const Tips& tips)
 {
     for (std::size_t row = 0; row < trans1.size(); ++row)
         for (std::size_t k = 0; k < trans1.at(row).size(); ++k)
-            trans1.at(row).at(k)->setToolTip(totext(tips.trans1.at(k + rowlength * row)));
+            settip(trans1.at(row).at(k), tips.trans1.at(k + rowlength * row));
     for (const ShiftButton& shift : shifts)
-        shift.button->setToolTip(totext(tips.*shift.tip));
+        settip(shift.button, tips.*shift.tip);
 }
 
 } // namespace mainscreen

@@ -79,16 +79,14 @@ void PageScreen::addmenus()
     mnupiano->setCheckable(true);
     QAction* print = menuBar()->addAction(QStringLiteral("Print"), this, &PageScreen::cmdprint_Click);
     print->setObjectName(QStringLiteral("mnuprint"));
-    QAction* help = additem(addmenu("mnuhelp", "Help"), "mnuhelpcomplete", "Help - complete", nullptr);
-    help->setEnabled(false);
+    additem(addmenu("mnuhelp", "Help"), "mnuhelpcomplete", "Help - complete", &PageScreen::mnuhelpcomplete_Click);
 }
 
 QAction* PageScreen::additem(QMenu* menu, const char* name, const char* caption, Signal told)
 {
     QAction* action = menu->addAction(QString::fromLatin1(caption));
     action->setObjectName(QString::fromLatin1(name));
-    if (told)
-        connect(action, &QAction::triggered, this, told);
+    connect(action, &QAction::triggered, this, told);
     return action;
 }
 

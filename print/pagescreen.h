@@ -38,6 +38,7 @@ Q_SIGNALS:
     void cmdret_Click();   ///< the menu's Exit too
     void mnuload_Click();
     void mnusave_Click();
+    void mnuhelpcomplete_Click();
     void mnuguitar_Click();
     void mnupiano_Click();
     void closed(); ///< however it was closed

@@ -5,6 +5,7 @@
 
 #include "app/program.h"
 
+#include <QAction>
 #include <QApplication>
 #include <QComboBox>
 #include <QDir>
@@ -45,18 +46,29 @@ public:
 
     void pick(const char* item) const { find<QAction>(item)->trigger(); }
 
-    /// A picture of the main screen, or of another by its name.
-    void keep(const char* name, const char* screen = nullptr) const
+    void keep(const char* name) const { keep(name, program.mainscreen); }
+
+    /// Opens a screen by its item in the menus, keeps its picture and closes it.
+    void keepscreen(const char* name, const char* item, const char* screen) const
+    {
+        pick(item);
+        auto* opened = find<QWidget>(screen);
+        keep(name, *opened);
+        opened->close();
+    }
+
+    void keepopen(const char* name, const char* screen) const { keep(name, *find<QWidget>(screen)); }
+
+private:
+    void keep(const char* name, QWidget& screen) const
     {
         QApplication::processEvents();
-        QWidget& shown = screen ? *find<QWidget>(screen) : program.mainscreen;
         const QString path = folder.filePath(QString::fromLatin1(name) + QStringLiteral(".png"));
-        if (!shown.grab().save(path))
+        if (!screen.grab().save(path))
             throw std::runtime_error("cannot write " + path.toStdString());
         QTextStream(stdout) << path << '\n';
     }
 
-private:
     template <typename Control>
     Control* find(const char* name) const
     {
@@ -95,9 +107,9 @@ void customwalk(app::Program& program, const Walker& walker, const std::string& 
     program.session.editform.txtname_Change("Nashville, high strung");
     walker.click("cmdsettings");
     walker.click("cmdret_5");
-    walker.keep(("custom" + ending).c_str(), "custom");
+    walker.keepopen(("custom" + ending).c_str(), "custom");
     walker.click("cmdarrange");
-    walker.keep(("arrange" + ending).c_str(), "arrange");
+    walker.keepopen(("arrange" + ending).c_str(), "arrange");
 }
 
 void lightwalk(const QDir& folder)
@@ -124,6 +136,9 @@ void lightwalk(const QDir& folder)
     walker.choose("cbopreset", "show all notes");
     walker.keep("ukulele");
     customwalk(program, walker, "");
+    walker.keepscreen("help", "mnuchelp", "helpinfo");
+    walker.keepscreen("basichelp", "mnubhelp", "mhelp");
+    walker.keepscreen("about", "mnuabout", "frmAbout");
 }
 
 void darkwalk(const QDir& folder)
@@ -141,6 +156,7 @@ void darkwalk(const QDir& folder)
     walker.click("Crd_3");
     walker.keep("banjo");
     customwalk(program, walker, "-dark");
+    walker.keepscreen("darkbasichelp", "mnubhelp", "mhelp");
 }
 
 } // namespace

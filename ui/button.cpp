@@ -55,7 +55,12 @@ void Button::setbold(bool bold)
 QSize Button::sizeHint() const
 {
     const QFontMetricsF metrics(look.font(Type::text));
-    return {qRound(metrics.horizontalAdvance(text()) + 28 * look.zoom()), qRound(28 * look.zoom())};
+    return {qRound(metrics.horizontalAdvance(caption()) + 28 * look.zoom()), qRound(28 * look.zoom())};
+}
+
+QString Button::caption() const
+{
+    return text().remove(QLatin1Char('&'));
 }
 
 QColor Button::face() const
@@ -87,7 +92,7 @@ void Button::paintEvent(QPaintEvent* /*event*/)
     if (arrow != Qt::NoArrow)
         paintarrow(painter, look, rect(), arrow, ink());
     const double margin = 2 * look.zoom();
-    painttext(painter, QRectF(rect()).adjusted(margin, 0, -margin, 0), text(),
+    painttext(painter, QRectF(rect()).adjusted(margin, 0, -margin, 0), caption(),
               look.font(font().bold() ? Type::strong : Type::text), ink());
     if (hasFocus() && ring)
         paintfocus(painter, look, rect(), corner);

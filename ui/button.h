@@ -40,6 +40,7 @@ protected:
 private:
     Button(const Look& shownlook, const QString& caption, QWidget* parent, Shape drawn, Qt::ArrowType pointing);
 
+    QString caption() const; ///< the text without the mark of its key
     QColor face() const;
     QColor ink() const;
 

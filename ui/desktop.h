@@ -11,7 +11,7 @@
 
 namespace ui {
 
-enum class Icon : std::uint8_t { information, critical };
+enum class Icon : std::uint8_t { plain, information, critical };
 
 enum class Answer : std::uint8_t { yes, no };
 
@@ -24,7 +24,18 @@ struct FileFilter {
 };
 
 /// The screens that stand over the main screen.
-enum class Screen : std::uint8_t { frmretune, custom, arrange, ccamera, camquestion, mprint, printdialog };
+enum class Screen : std::uint8_t {
+    frmretune,
+    custom,
+    arrange,
+    ccamera,
+    camquestion,
+    mprint,
+    printdialog,
+    helpinfo,
+    mhelp,
+    frmAbout
+};
 
 /// Room on a page of paper, upright, for characters of one size.
 struct PaperRoom {

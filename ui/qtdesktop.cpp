@@ -11,6 +11,18 @@
 namespace ui {
 namespace {
 
+QMessageBox::Icon boxicon(Icon icon)
+{
+    switch (icon) {
+    case Icon::information:
+        return QMessageBox::Information;
+    case Icon::critical:
+        return QMessageBox::Critical;
+    default:
+        return QMessageBox::NoIcon;
+    }
+}
+
 /// A filter in the dialog's own form: what is shown, then what it lists.
 QString dialogfilter(const FileFilter& filter)
 {
@@ -29,8 +41,8 @@ QWidget* QtDesktop::owner() const
 void QtDesktop::tell(Icon icon, const std::string& text)
 {
     showall();
-    QMessageBox box(icon == Icon::critical ? QMessageBox::Critical : QMessageBox::Information,
-                    QApplication::applicationDisplayName(), QString::fromStdString(text), QMessageBox::Ok, owner());
+    QMessageBox box(boxicon(icon), QApplication::applicationDisplayName(), QString::fromStdString(text),
+                    QMessageBox::Ok, owner());
     box.setTextFormat(Qt::PlainText);
     box.exec();
 }

@@ -151,7 +151,7 @@ const std::vector<Menu> menus{
   { { "mnuedit",       "Edit and Custom",                            true  },
     { "mnucustom",     "Edit Custom Settings",                       true  },
     { "mnuarrange",    "Arrange Custom Order",                       true  },
-    { "mnutips",       "Toggle main tips",                           false } },
+    { "mnutips",       "Toggle main tips",                           true  } },
   { { "mnuflattype",   "Sharps and Flats",                           true  },
     { "mnusharp",      "Mostly Sharps",                              true  },
     { "mnuflat",       "Mostly Flats",                               true  },
@@ -168,9 +168,9 @@ const std::vector<Menu> menus{
     { "mnuphotoclear", "Clear Photos and Reset Print Data",          true  },
     { "mnuprintchord", "Print the chords",                           true  } },
   { { "mnuhelp",       "Help",                                       true  },
-    { "mnubhelp",      "Basic Help",                                 false },
-    { "mnuchelp",      "Help - Complete",                            false },
-    { "mnuabout",      "About",                                      false } },
+    { "mnubhelp",      "Basic Help",                                 true  },
+    { "mnuchelp",      "Help - Complete",                            true  },
+    { "mnuabout",      "About",                                      true  } },
 };
 // clang-format on
 
