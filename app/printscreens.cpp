@@ -59,7 +59,7 @@ QWidget* PrintScreens::makepage(QWidget* owner)
     joinbox(page->spacing, &Session::txtspace_Change, &Session::cmdspacedown_Click, &Session::cmdspaceup_Click);
     joinbox(page->font, &Session::txtfont_Change, &Session::cmddownfont_Click, &Session::cmdupfont_Click);
     QObject::connect(page->rtbprint, &print::Paper::edited, page,
-                     [this](const std::string& text) { stage.act([&] { session.rtbprint_Change(text); }); });
+                     [this](const print::Edit& edit) { stage.act([&] { session.rtbprint_Edit(edit); }); });
     QObject::connect(page->chkmult, &QCheckBox::clicked, page,
                      [this](bool checked) { stage.act([&] { session.chkmult_Click(checked); }); });
     QObject::connect(page->chkalt, &QCheckBox::clicked, page,

@@ -45,6 +45,11 @@ void Session::rtbprint_Change(const std::string& text)
     page.text = text;
 }
 
+void Session::rtbprint_Edit(const print::Edit& edit)
+{
+    page.text.replace(edit.at, edit.removed, edit.added);
+}
+
 void Session::txtchar_Change(const std::string& text)
 {
     page.txtchar = text;

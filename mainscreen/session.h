@@ -218,6 +218,7 @@ public:
     // Print page
     void mnuviewprint_Click(); ///< opens the page; one that is open keeps what it shows
     void rtbprint_Change(const std::string& text);
+    void rtbprint_Edit(const print::Edit& edit); ///< the same for a part of the text
     void txtchar_Change(const std::string& text);
     void txtspace_Change(const std::string& text);
     void txtfont_Change(const std::string& text);

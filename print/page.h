@@ -8,6 +8,13 @@
 
 namespace print {
 
+/// A part of a text that another takes the place of.
+struct Edit {
+    std::size_t at;      ///< byte at which it begins
+    std::size_t removed; ///< bytes that go; those behind the text's end do not count
+    std::string added;
+};
+
 /// The print page's screen: its text, and its boxes as they stand there. Boxes take any text that is typed.
 struct Page {
     bool open = false;

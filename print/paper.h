@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "print/page.h"
 #include "ui/look.h"
 
 #include <QPlainTextEdit>
@@ -26,16 +27,21 @@ public:
     int widthfor(int characters) const;
 
 Q_SIGNALS:
-    void edited(const std::string& text); ///< by typing
+    void edited(const Edit& edit); ///< by typing
 
 protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
-    void tell();
+    void tell(int position, int added);
+    Edit takewhole();
+    Edit takepart(int position, int added);
+    int units() const;
 
     const ui::Look& look;
     std::string shown;
+    int shownunits = 0;   ///< of the toolkit, in the text that is shown
+    bool unitsfit = true; ///< as many stand in `shown` as in the toolkit's document
     int width = 0;
 };
 

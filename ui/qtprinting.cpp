@@ -3,6 +3,7 @@
 #include "ui/printqueue.h"
 #include "ui/qtdesktop.h"
 
+#include <QCoreApplication>
 #include <QFile>
 #include <QFontMetricsF>
 #include <QPainter>
@@ -101,6 +102,7 @@ std::string QtDesktop::print(const PrintJob& job)
     for (std::size_t page = 0; page < job.pages.size() && whole; ++page) {
         whole = page == 0 || printer.newPage();
         drawpage(painter, job.pages.at(page));
+        QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents); // the screens stay alive over a long job
     }
     if (!painter.end() || !whole)
         return failureof(printer);
