@@ -8,7 +8,6 @@ int main(int argc, char** argv)
 {
     const QApplication application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("tonefret"));
-    QApplication::setApplicationDisplayName(QStringLiteral("tonefret"));
     QApplication::setApplicationVersion(QStringLiteral(TONEFRET_VERSION));
     ui::QtDesktop desktop;
     app::Program program(desktop);

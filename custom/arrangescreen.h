@@ -40,11 +40,13 @@ private:
     void choose(int place);
     void putback();
     int neighbour(int place, Qt::Key pressed) const;
+    std::optional<int> nextused(int place, int step) const;
 
     const CustomTable& table;
     ui::RovingFocus* roving;
     std::array<EntryBox*, placecount> txtx{};
     std::optional<int> carried; ///< the place that was picked up by keyboard
+    std::string carriedname;
 };
 
 } // namespace custom

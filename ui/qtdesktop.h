@@ -38,6 +38,7 @@ public:
 
 private:
     QWidget* owner() const;
+    static void retire(QWidget& screen);
 
     std::function<void()> showall = [] {};
     QPointer<QWidget> mainscreen;
