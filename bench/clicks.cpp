@@ -131,7 +131,7 @@ void Bench::mainscreen()
     repeat("a key", somenotes, [this](int) { click(member("key", random(25))); });
     repeat("a cell", somenotes, [this](int) { click(member("Text1", 6 + random(114))); });
     repeat("a chord button", nothing, [this](int) { click(member("Crd", random(28))); });
-    repeat("a spelling", chord, [this](int i) { click(i % 2 == 0 ? "cmdsharp" : "cmdflat"); });
+    repeat("a spelling", chord, [this](int i) { click(QLatin1String(i % 2 == 0 ? "cmdsharp" : "cmdflat")); });
     repeat("the lower transpose button", chord, [this](int) { click(QStringLiteral("botr")); });
     repeat("a hand", chord, [this](int i) { choose("cboleft", (i + 1) % 2); });
     repeat("a family", chord, [this](int) { choose("cbotype", random(8)); });
@@ -179,7 +179,7 @@ void Bench::pages()
         std::vector<double> flushes;
         for (int i = 0; i < turns; ++i) {
             loads.push_back(timed([&] { program.stage.act([&] { program.session.loadpage(text); }); }));
-            fonts.push_back(timed([&] { click(i % 2 == 0 ? "cmdupfont" : "cmddownfont"); }));
+            fonts.push_back(timed([&] { click(QLatin1String(i % 2 == 0 ? "cmdupfont" : "cmddownfont")); }));
             program.session.mnuguitar_Click();
             program.stage.act([this] { program.session.chordsnap(); });
             flushes.push_back(timed([this] { program.stage.act([this] { program.session.printfill(); }); }));
