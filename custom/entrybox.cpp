@@ -117,7 +117,9 @@ void EntryBox::keyPressEvent(QKeyEvent* event)
     case Qt::Key_Enter:
         return Q_EMIT chosen();
     case Qt::Key_Escape:
-        return Q_EMIT left();
+        if (held)
+            return Q_EMIT left();
+        [[fallthrough]];
     default:
         QWidget::keyPressEvent(event);
     }
@@ -125,7 +127,7 @@ void EntryBox::keyPressEvent(QKeyEvent* event)
 
 void EntryBox::focusInEvent(QFocusEvent* event)
 {
-    ring = ui::bykeyboard(*event);
+    ring = ui::bykeyboard(*event, ring);
     update();
 }
 

@@ -4,6 +4,7 @@
 
 #include "ui/paint.h"
 
+#include <QAccessible>
 #include <QPainter>
 
 namespace ui {
@@ -19,6 +20,20 @@ void Readout::settext(const QString& text)
         return;
     shown = text;
     update();
+    if (!QAccessible::isActive())
+        return;
+    QAccessibleEvent renamed(this, QAccessible::NameChanged);
+    QAccessible::updateAccessibility(&renamed);
+}
+
+QString Readout::spokenname() const
+{
+    const QString value = shown.trimmed();
+    if (accessibleName().isEmpty())
+        return value;
+    if (frame == Frame::none)
+        return accessibleName();
+    return QStringLiteral("%1: %2").arg(accessibleName(), value.isEmpty() ? QStringLiteral("none") : value);
 }
 
 void Readout::paintEvent(QPaintEvent* /*event*/)

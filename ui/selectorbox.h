@@ -33,18 +33,19 @@ protected:
     void showPopup() override;
     void focusInEvent(QFocusEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     void tellofchange(int item);
     void tellofactivation(int item);
-    void seek(const QString& typed);
+    int sought(const QString& typed, int current);
 
     const Look& look;
     QAbstractItemDelegate* trimmeditems = nullptr;
     QStringList listed;
     QString shown;
     int toldof = -1; ///< the item whose change was told of, until its activation comes or cannot come any more
-    QString sought;
+    QString typedsofar;
     QElapsedTimer sincetyping;
     bool ring = false; ///< the keyboard brought the focus here
 };
