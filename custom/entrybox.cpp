@@ -116,10 +116,6 @@ void EntryBox::keyPressEvent(QKeyEvent* event)
     case Qt::Key_Return:
     case Qt::Key_Enter:
         return Q_EMIT chosen();
-    case Qt::Key_Escape:
-        if (held)
-            return Q_EMIT left();
-        [[fallthrough]];
     default:
         QWidget::keyPressEvent(event);
     }
