@@ -8,7 +8,6 @@
 #include "help/documents.h"
 #include "help/helpscreen.h"
 #include "help/picturescreen.h"
-#include "ui/spoken.h"
 #include "ui/text.h"
 
 #include <QCoreApplication>
@@ -18,7 +17,6 @@ namespace app {
 Program::Program(ui::QtDesktop& opened)
     : desktop(opened), session(opened), stage(opened), mainscreen(session, stage, look)
 {
-    ui::joinspoken();
     stage.onchange([this] { display(); });
     desktop.beforeasking([this] { stage.showall(); });
     desktop.setmain(&mainscreen);

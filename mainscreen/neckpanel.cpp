@@ -161,6 +161,7 @@ void NeckPanel::displaycapo()
     const ui::Twips height = neck.height + overhang;
     canvas.place(capobar, {marker.barleft, top, barwidth, height});
     canvas.place(capofollower, {marker.followerleft, top, followerwidth, height});
+    rename(capobar, QString::fromLatin1("Capo, fret %1").arg(session.PositionFret));
     capobar->setVisible(marker.barvisible);
     capofollower->setVisible(marker.followervisible);
 }

@@ -20,8 +20,11 @@ void openmenu(QMenuBar& bar, QAction& title)
 
 void addmenukeys(QMenuBar& bar)
 {
+    bar.setAccessibleName(QStringLiteral("Menus"));
     QString taken;
     for (QAction* title : bar.actions()) {
+        if (title->menu())
+            title->menu()->setAccessibleName(title->text());
         const QChar letter = title->text().front().toUpper();
         if (!title->menu() || taken.contains(letter))
             continue;

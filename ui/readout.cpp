@@ -5,13 +5,44 @@
 #include "ui/paint.h"
 
 #include <QAccessible>
+#include <QAccessibleWidget>
 #include <QPainter>
 
 namespace ui {
+namespace {
+
+class ReadoutInterface : public QAccessibleWidget {
+public:
+    explicit ReadoutInterface(Readout* read) : QAccessibleWidget(read, QAccessible::StaticText), readout(*read) {}
+
+    QString text(QAccessible::Text which) const override
+    {
+        switch (which) {
+        case QAccessible::Name:
+            return readout.spokenname();
+        case QAccessible::Value:
+            return readout.text().trimmed();
+        default:
+            return QAccessibleWidget::text(which);
+        }
+    }
+
+private:
+    const Readout& readout;
+};
+
+QAccessibleInterface* readoutinterface(const QString& /*type*/, QObject* object)
+{
+    auto* readout = qobject_cast<Readout*>(object);
+    return readout ? new ReadoutInterface(readout) : nullptr;
+}
+
+} // namespace
 
 Readout::Readout(const Look& shownlook, Type written, Frame drawn, Qt::Alignment placed, QWidget* parent)
     : QWidget(parent), look(shownlook), type(written), frame(drawn), alignment(placed)
 {
+    QAccessible::installFactory(readoutinterface);
 }
 
 void Readout::settext(const QString& text)

@@ -3,8 +3,10 @@
 #include "ui/selectorbox.h"
 
 #include "ui/paint.h"
+#include "ui/selectoraccess.h"
 
 #include <QAbstractItemView>
+#include <QAccessible>
 #include <QApplication>
 #include <QKeyEvent>
 #include <QPainter>
@@ -50,6 +52,7 @@ SelectorBox::SelectorBox(const Look& shownlook, QWidget* parent) : QComboBox(par
     setFocusPolicy(Qt::TabFocus);
     setAttribute(Qt::WA_Hover);
     setMaxVisibleItems(20);
+    QAccessible::installFactory(selectorinterface);
     connect(this, &QComboBox::currentIndexChanged, this, &SelectorBox::tellofchange);
     connect(this, &QComboBox::activated, this, &SelectorBox::tellofactivation);
 }
@@ -77,14 +80,20 @@ void SelectorBox::display(const QStringList& items, int index, const QString& te
     if (listed != items) {
         clear();
         addItems(items);
+        for (int item = 0; item < count(); ++item)
+            setItemData(item, itemText(item).trimmed(), Qt::AccessibleTextRole);
         listed = items;
     }
     if (currentIndex() != index)
         setCurrentIndex(index);
-    if (shown != text) {
-        shown = text;
-        update();
-    }
+    if (shown == text)
+        return;
+    shown = text;
+    update();
+    if (!QAccessible::isActive())
+        return;
+    QAccessibleEvent renamed(this, QAccessible::NameChanged);
+    QAccessible::updateAccessibility(&renamed);
 }
 
 void SelectorBox::showPopup()

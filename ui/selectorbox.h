@@ -22,6 +22,7 @@ public:
     QString shownText() const { return shown; }
     /// Whether the keyboard brought the focus here.
     bool usedbykeys() const { return ring; }
+    void showPopup() override;
 
 Q_SIGNALS:
     /// A person picked an item: from the opened list, by wheel or keys, or through assistive technology; once for each
@@ -30,7 +31,6 @@ Q_SIGNALS:
 
 protected:
     void paintEvent(QPaintEvent* event) override;
-    void showPopup() override;
     void focusInEvent(QFocusEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;

@@ -2,8 +2,6 @@
 // SPDX-License-Identifier: MIT
 #include "ui/spoken.h"
 
-#include "ui/readout.h"
-
 #include <QAccessible>
 #include <QAccessibleWidget>
 
@@ -25,39 +23,17 @@ private:
     const Spoken& notice;
 };
 
-class ReadoutInterface : public QAccessibleWidget {
-public:
-    explicit ReadoutInterface(Readout* read) : QAccessibleWidget(read, QAccessible::StaticText), readout(*read) {}
-
-    QString text(QAccessible::Text which) const override
-    {
-        switch (which) {
-        case QAccessible::Name:
-            return readout.spokenname();
-        case QAccessible::Value:
-            return readout.text().trimmed();
-        default:
-            return QAccessibleWidget::text(which);
-        }
-    }
-
-private:
-    const Readout& readout;
-};
-
 QAccessibleInterface* spokeninterface(const QString& /*type*/, QObject* object)
 {
-    if (auto* spoken = qobject_cast<Spoken*>(object))
-        return new SpokenInterface(spoken);
-    if (auto* readout = qobject_cast<Readout*>(object))
-        return new ReadoutInterface(readout);
-    return nullptr;
+    auto* spoken = qobject_cast<Spoken*>(object);
+    return spoken ? new SpokenInterface(spoken) : nullptr;
 }
 
 } // namespace
 
 Spoken::Spoken(QWidget* parent) : QWidget(parent)
 {
+    QAccessible::installFactory(spokeninterface);
     setAttribute(Qt::WA_TransparentForMouseEvents);
     setFixedSize(1, 1); // what has no place on the screen is not read
 }
@@ -75,11 +51,6 @@ void Spoken::say(const QString& words)
         return;
     QAccessibleEvent appeared(this, QAccessible::ObjectShow); // a notice is read when it appears
     QAccessible::updateAccessibility(&appeared);
-}
-
-void joinspoken()
-{
-    QAccessible::installFactory(spokeninterface);
 }
 
 } // namespace ui

@@ -22,7 +22,4 @@ private:
     QString said;
 };
 
-/// Tells assistive technology what `Spoken` and `Readout` are and what they read. Once for the program.
-void joinspoken();
-
 } // namespace ui

@@ -15,7 +15,6 @@ namespace {
 constexpr int patience = 30000; // milliseconds
 constexpr const char* launcher = "/usr/share/dbus-1/services/org.a11y.Bus.service";
 constexpr const char* accessible = "org.a11y.atspi.Accessible";
-constexpr int showingstate = 25;
 
 /// The address of the bus on which assistive technology meets, which starts with this question.
 QString accessaddress(const QString& sessionbus)
@@ -118,12 +117,8 @@ std::optional<Node> AccessBus::application(const QString& name) const
 Heard AccessBus::hear(const Node& node) const
 {
     const QString interface = QString::fromLatin1(accessible);
-    const auto words = call(node, interface, "GetState").arguments().constFirst().value<QDBusArgument>();
-    QList<uint> states;
-    words >> states;
     return {node, call(node, interface, "GetRoleName").arguments().constFirst().toString(),
-            property(node, "Name").toString(), property(node, "Description").toString(),
-            ((states.value(0) >> showingstate) & 1U) != 0};
+            property(node, "Name").toString()};
 }
 
 std::vector<Heard> AccessBus::tree(const Node& root) const

@@ -25,8 +25,6 @@ struct Heard {
     Node node;
     QString role; ///< "push button"
     QString name;
-    QString description;
-    bool showing; ///< it stands on the screen now
 };
 
 /// A message bus of its own with assistive technology's registry on it, for the program that is started next.
