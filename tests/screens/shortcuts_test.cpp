@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The tonefret developers
 // SPDX-License-Identifier: MIT
 #include "tests/screens/screentest.h"
+#include "ui/spoken.h"
 
 #include <QAbstractItemView>
 #include <QClipboard>
@@ -20,7 +21,7 @@ protected:
     void press(QWidget* screen, Qt::Key key, Qt::KeyboardModifiers held = Qt::NoModifier)
     {
         screen->activateWindow();
-        ASSERT_TRUE(QTest::qWaitForWindowActive(screen));
+        ASSERT_TRUE(QTest::qWaitFor([screen] { return screen->isActiveWindow(); }));
         QTest::keyClick(screen, key, held);
     }
     void press(Qt::Key key, Qt::KeyboardModifiers held = Qt::NoModifier) { press(&program.mainscreen, key, held); }
@@ -55,7 +56,7 @@ TEST_F(ShortcutsTest, altWithALetter_opensTheMenu)
         EXPECT_EQ(str(menu->activeAction()->objectName()), row.chosen);
         menu->close();
     }
-    EXPECT_EQ(shown(member("note", 0)), " "); // no letter became a note
+    EXPECT_EQ(shown(member("note", 0)), ""); // no letter became a note
 }
 
 TEST_F(ShortcutsTest, everyMenuOfACompanion_opensByItsLetter)
@@ -144,7 +145,7 @@ TEST_F(ShortcutsTest, escape_closesEveryCompanion)
     EXPECT_FALSE(session.customshown);
     EXPECT_FALSE(session.arrangeshown);
     EXPECT_FALSE(session.page.open);
-    EXPECT_EQ(backcolour(QStringLiteral("key_25")), "#e0e0e0") << "an Escape came through to the main screen";
+    EXPECT_NE(backcolour(QStringLiteral("key_25")), "#808080") << "an Escape came through to the main screen";
 }
 
 TEST_F(ShortcutsTest, copyChord_putsItOnTheClipboard)
@@ -166,8 +167,14 @@ TEST_F(ShortcutsTest, copyLastChart_waitsForASnapshot)
     pick(QStringLiteral("mnusnap"));
     EXPECT_TRUE(control<QAction>(QStringLiteral("mnucopychart"))->isEnabled());
     pick(QStringLiteral("mnucopychart"));
-    EXPECT_EQ(str(QApplication::clipboard()->text()), "                        C major\n"
-                                                      "" + str(QApplication::clipboard()->text()).substr(32));
+    const QStringList lines = QApplication::clipboard()->text().split(QLatin1Char('\n'));
+    ASSERT_GT(lines.size(), 4);
+    EXPECT_EQ(str(lines.at(0).trimmed()), "C major");
+    EXPECT_EQ(str(lines.at(2).trimmed()), "C E G");
+    EXPECT_EQ(str(lines.back()), "");
+    const std::string copied = str(QApplication::clipboard()->text());
+    session.printfill();
+    EXPECT_TRUE(session.page.text.ends_with(copied)) << session.page.text << "\nbut copied\n" << copied;
 }
 
 TEST_F(ShortcutsTest, wheelOverASelector_stepsIt)
@@ -198,7 +205,7 @@ TEST_F(ShortcutsTest, openedList_isSearchedWithoutBlanks)
     QTest::keyClicks(list->view(), QStringLiteral("ban"));
     EXPECT_EQ(at(), "BANJO");
     EXPECT_EQ(session.cbotype.text, "       GUITAR") << "looking is not picking";
-    EXPECT_EQ(shown(member("note", 0)), " ") << "a letter became a note";
+    EXPECT_EQ(shown(member("note", 0)), "") << "a letter became a note";
     QTest::keyClick(list->view(), Qt::Key_Return);
     EXPECT_EQ(session.cbotype.text, "        BANJO");
 }
@@ -229,7 +236,7 @@ TEST_F(ShortcutsTest, messageBox_belongsToTheScreenThatOpenedIt)
     auto* screen = real.mainscreen.findChild<QWidget*>(QStringLiteral("custom"));
     ASSERT_TRUE(screen);
     screen->activateWindow();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(screen));
+    ASSERT_TRUE(QTest::qWaitFor([screen] { return screen->isActiveWindow(); }));
     QWidget* owner = nullptr;
     QTimer::singleShot(0, &real.mainscreen, [&] {
         auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
