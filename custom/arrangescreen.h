@@ -42,11 +42,13 @@ private:
     void addplace(QGridLayout* grid, int place);
     void choose(int place);
     int neighbour(int place, Qt::Key pressed) const;
+    std::optional<int> nextused(int place, int step) const;
 
     const CustomTable& table;
     ui::RovingFocus* roving;
     std::array<EntryBox*, placecount> txtx{};
     std::optional<int> carried; ///< the place that was picked up by keyboard
+    std::string carriedname;
 };
 
 } // namespace custom

@@ -64,7 +64,7 @@ void EntryBox::mouseMoveEvent(QMouseEvent* event)
 
 void EntryBox::mouseReleaseEvent(QMouseEvent* event)
 {
-    if (armed && event->button() == Qt::LeftButton)
+    if (armed && event->button() == Qt::LeftButton && rect().contains(event->position().toPoint()))
         Q_EMIT dropped(index);
     armed = false;
 }

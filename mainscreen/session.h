@@ -288,6 +288,11 @@ private:
     std::optional<std::filesystem::path> pickpdf();
     /// Lets the user pick a file to save to, and asks before one is overwritten. A name without an ending gets
     /// `ending`.
+    void guarded(void (Session::*step)());
+    void saveatend();
+    void closegaps();
+    bool keepdamaged(const std::filesystem::path& file);
+    bool isdatafile(const std::filesystem::path& file) const;
     std::optional<std::filesystem::path> picksave(std::span<const ui::FileFilter> filters, const char* ending);
 
     ui::Desktop& desktop;

@@ -16,17 +16,24 @@ namespace print {
 namespace {
 
 // clang-format off
-constexpr NumberRow characterrow{"Characters / line : ", "txtchar", "cmdchardown", "less characters per line",
+constexpr NumberRow characterrow{"Characters / line : ", "charactersperline", "characters per line", "txtchar", "cmdchardown", "less characters per line",
                                  "cmdcharup", "more characters per line", 130};
-constexpr NumberRow spacingrow{"Chord Spacing: ", "txtspace", "cmdspacedown", "less spacing between chords",
+constexpr NumberRow spacingrow{"Chord Spacing: ", "chordspacing", "chord spacing", "txtspace", "cmdspacedown", "less spacing between chords",
                                "cmdspaceup", "more spacing between chords", 130};
-constexpr NumberRow fontrow{"Change Font Size", "txtfont", "cmddownfont", "lower the font size",
+constexpr NumberRow fontrow{"Change Font Size", "changefontsize", "font size", "txtfont", "cmddownfont", "lower the font size",
                             "cmdupfont", "raise the font size", 130};
 // clang-format on
 constexpr const char* cleartip = "clears the print screen and all print data"; // the print button has it too
 constexpr int charactersinview = 80;
 constexpr int heightinview = 620; // pixels at zoom 1
 constexpr double usable = 0.9;    // of the display's free area, at most
+
+/// Without telling of it.
+void setchecked(QCheckBox* box, bool checked)
+{
+    const QSignalBlocker quiet(box);
+    box->setChecked(checked);
+}
 
 } // namespace
 
@@ -176,8 +183,8 @@ void PageScreen::display(const Page& page, const ModeMarks& marks)
     characters->display(page.txtchar);
     spacing->display(page.txtspace);
     font->display(page.txtfont);
-    chkmult->setChecked(page.chkmult);
-    chkalt->setChecked(page.chkalt);
+    setchecked(chkmult, page.chkmult);
+    setchecked(chkalt, page.chkalt);
     txtlines->setText(ui::totext(page.txtlines));
     mnuguitar->setChecked(marks.mnuguitar);
     mnupiano->setChecked(marks.mnupiano);

@@ -80,6 +80,7 @@ QPalette Look::palettefor(const QColor& ground) const
     palette.setColor(QPalette::ButtonText, current->text);
     palette.setColor(QPalette::Base, ground);
     palette.setColor(QPalette::Text, current->text);
+    palette.setColor(QPalette::PlaceholderText, current->label);
     palette.setColor(QPalette::Highlight, current->accent);
     palette.setColor(QPalette::HighlightedText, current->accenttext);
     return palette;
