@@ -6,6 +6,8 @@
 #include "ui/readout.h"
 #include "ui/text.h"
 
+#include <QKeyEvent>
+
 namespace custom {
 namespace {
 
@@ -75,7 +77,6 @@ void ArrangeScreen::addplace(QGridLayout* grid, int place)
     grid->addWidget(box, row, column + 1);
     connect(box, &EntryBox::dropped, this, [this, place](int source) { Q_EMIT txtx_DragDrop(place, source); });
     connect(box, &EntryBox::chosen, this, [this, place] { choose(place); });
-    connect(box, &EntryBox::left, this, &ArrangeScreen::putback);
     roving->add(box);
     txtx.at(static_cast<std::size_t>(place)) = box;
 }
@@ -118,8 +119,11 @@ void ArrangeScreen::choose(int place)
     Q_EMIT txtx_DragDrop(place, source);
 }
 
-void ArrangeScreen::putback()
+/// Escape puts back what is picked up; otherwise it closes the screen.
+void ArrangeScreen::keyPressEvent(QKeyEvent* event)
 {
+    if (event->key() != Qt::Key_Escape || !carried)
+        return Companion::keyPressEvent(event);
     carried.reset();
     display();
 }

@@ -116,8 +116,6 @@ void EntryBox::keyPressEvent(QKeyEvent* event)
     case Qt::Key_Return:
     case Qt::Key_Enter:
         return Q_EMIT chosen();
-    case Qt::Key_Escape:
-        return Q_EMIT left();
     default:
         QWidget::keyPressEvent(event);
     }
@@ -125,7 +123,7 @@ void EntryBox::keyPressEvent(QKeyEvent* event)
 
 void EntryBox::focusInEvent(QFocusEvent* event)
 {
-    ring = ui::bykeyboard(*event);
+    ring = ui::bykeyboard(*event, ring);
     update();
 }
 

@@ -3,9 +3,11 @@
 #include "print/pagescreen.h"
 
 #include "print/typednumber.h"
+#include "ui/menukeys.h"
 #include "ui/text.h"
 
 #include <QCloseEvent>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QMenuBar>
 #include <QScreen>
@@ -76,8 +78,8 @@ void PageScreen::addmenus()
         return menu;
     };
     QMenu* file = addmenu("mnufile", "file");
-    additem(file, "mnuload", "Load Chord Text File", &PageScreen::mnuload_Click);
-    additem(file, "mnusave", "Save Chord Text File", &PageScreen::mnusave_Click);
+    additem(file, "mnuload", "Load Chord Text File", &PageScreen::mnuload_Click)->setShortcut(Qt::CTRL | Qt::Key_O);
+    additem(file, "mnusave", "Save Chord Text File", &PageScreen::mnusave_Click)->setShortcut(Qt::CTRL | Qt::Key_S);
     additem(file, "mnuexit", "Exit", &PageScreen::cmdret_Click);
     QMenu* modes = addmenu("mnuprintmain", "Print Chords");
     mnuguitar = additem(modes, "mnuguitar", "Stringed Instrument Chords - click to set", &PageScreen::mnuguitar_Click);
@@ -86,7 +88,9 @@ void PageScreen::addmenus()
     mnupiano->setCheckable(true);
     QAction* print = menuBar()->addAction(QStringLiteral("Print"), this, &PageScreen::cmdprint_Click);
     print->setObjectName(QStringLiteral("mnuprint"));
+    print->setShortcut(Qt::CTRL | Qt::Key_P);
     additem(addmenu("mnuhelp", "Help"), "mnuhelpcomplete", "Help - complete", &PageScreen::mnuhelpcomplete_Click);
+    ui::addmenukeys(*menuBar());
 }
 
 QAction* PageScreen::additem(QMenu* menu, const char* name, const char* caption, Signal told)
@@ -188,6 +192,14 @@ void PageScreen::display(const Page& page, const ModeMarks& marks)
         return;
     const QSize room = screen()->availableGeometry().size() * usable;
     resize(QSize(rtbprint->widthfor(charactersinview), qRound(heightinview * look.zoom())).boundedTo(room));
+}
+
+void PageScreen::keyPressEvent(QKeyEvent* event)
+{
+    if (event->key() == Qt::Key_Escape)
+        close();
+    else
+        QMainWindow::keyPressEvent(event);
 }
 
 void PageScreen::closeEvent(QCloseEvent* event)

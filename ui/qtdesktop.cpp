@@ -3,6 +3,7 @@
 #include "ui/qtdesktop.h"
 
 #include <QApplication>
+#include <QClipboard>
 #include <QDir>
 #include <QFile>
 #include <QFileDialog>
@@ -121,6 +122,11 @@ void QtDesktop::leave()
     if (mainscreen)
         mainscreen->close();
     QApplication::quit();
+}
+
+void QtDesktop::copy(const std::string& text)
+{
+    QApplication::clipboard()->setText(QString::fromStdString(text));
 }
 
 void QtDesktop::beep()
