@@ -24,6 +24,7 @@ public:
     {
         return std::nullopt;
     }
+    void copy(const std::string& /*text*/) override {}
     void beep() override {}
     bool hasprinter() override { return false; }
     ui::PaperRoom paperroom(int /*points*/) override { return {}; }
@@ -142,20 +143,20 @@ QPixmap programicon(int size, double ratio)
     painter.setRenderHint(QPainter::Antialiasing);
     painter.scale(size / 64.0, size / 64.0);
     painter.setPen(Qt::NoPen);
-    painter.setBrush(QColor(0x4A2F22));
+    painter.setBrush(QColor(0x1E2126));
     painter.drawRoundedRect(QRectF(2, 2, 60, 60), 12, 12);
-    painter.setBrush(QColor(0xFBFAF7));
+    painter.setBrush(QColor(0xF4F2ED));
     for (const int x : {8, 20, 32, 44})
         painter.drawRoundedRect(QRectF(x, 8, 11.5, 28), 2, 2);
     painter.setBrush(QColor(0x1E2126));
     for (const int x : {16, 40})
         painter.drawRect(QRectF(x, 8, 7, 17));
-    painter.setPen(QPen(QColor(0xE6C89B), 1.6));
+    painter.setPen(QPen(QColor(0xF4F2ED), 1.6));
     for (const int y : {42, 48, 54})
         painter.drawLine(8, y, 56, y);
     painter.setPen(Qt::NoPen);
-    painter.setBrush(QColor(0xE08A5E));
-    painter.drawEllipse(QPointF(38, 48), 4, 4);
+    painter.setBrush(QColor(0xA8482A));
+    painter.drawEllipse(QPointF(38, 48), 5, 5);
     return icon;
 }
 

@@ -17,7 +17,7 @@ struct Portrait {
 /// Takes the pictures, in the desktop's colours.
 Portrait portrait();
 
-/// The program's icon, drawn. `size` is in logical pixels, `ratio` that of the display's.
+/// The program's icon, drawn as packaging/tonefret.svg is. `size` is in logical pixels, `ratio` that of the display's.
 QPixmap programicon(int size, double ratio);
 
 } // namespace app

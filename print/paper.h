@@ -42,7 +42,8 @@ private:
     std::string shown;
     int shownunits = 0;   ///< of the toolkit, in the text that is shown
     bool unitsfit = true; ///< as many stand in `shown` as in the toolkit's document
-    int width = 0;
+    int width = 0;        ///< characters
+    int shownpoints = 0;  ///< 0: none set yet
 };
 
 } // namespace print

@@ -22,6 +22,9 @@ public:
     /// How a screen is made; it is made anew each time it is opened, to suit the zoom of that moment.
     void add(Screen screen, Maker maker) { makers[screen] = std::move(maker); }
 
+    /// Where files are picked as long as none was; the current folder unless this is called.
+    void pickfrom(const QString& folder) { pickfolder = folder; }
+
     /// What brings the screens up to date before a person is asked something in the middle of a procedure.
     void beforeasking(std::function<void()> show) { showall = std::move(show); }
 
@@ -31,6 +34,7 @@ public:
     void open(Screen screen) override;
     void close(Screen screen) override;
     void leave() override;
+    void copy(const std::string& text) override;
     void beep() override;
     bool hasprinter() override;
     PaperRoom paperroom(int points) override;
@@ -38,10 +42,11 @@ public:
 
 private:
     QWidget* owner() const;
+    static void retire(QWidget& screen);
 
     std::function<void()> showall = [] {};
     QPointer<QWidget> mainscreen;
-    QString pickfolder; ///< where a file was picked last; empty: nowhere yet
+    QString pickfolder; ///< where a file was picked last; empty: the current one
     std::map<Screen, Maker> makers;
     std::map<Screen, QPointer<QWidget>> screens;
 };
