@@ -29,7 +29,6 @@ QStringList wordsof(int argc, char** argv)
 void nameapplication()
 {
     QApplication::setApplicationName(QStringLiteral("tonefret"));
-    QApplication::setApplicationDisplayName(QStringLiteral("tonefret"));
     QApplication::setApplicationVersion(QStringLiteral(TONEFRET_VERSION));
     QApplication::setDesktopFileName(QStringLiteral("tonefret"));
     constexpr int iconsize = 64;

@@ -24,6 +24,7 @@ public:
     {
         return std::nullopt;
     }
+    void copy(const std::string& /*text*/) override {}
     void beep() override {}
     bool hasprinter() override { return false; }
     ui::PaperRoom paperroom(int /*points*/) override { return {}; }

@@ -60,9 +60,9 @@ QWidget* PrintScreens::makepage(QWidget* owner)
     joinbox(page->font, &Session::txtfont_Change, &Session::cmddownfont_Click, &Session::cmdupfont_Click);
     QObject::connect(page->rtbprint, &print::Paper::edited, page,
                      [this](const std::string& text) { stage.act([&] { session.rtbprint_Change(text); }); });
-    QObject::connect(page->chkmult, &QCheckBox::clicked, page,
+    QObject::connect(page->chkmult, &QCheckBox::toggled, page,
                      [this](bool checked) { stage.act([&] { session.chkmult_Click(checked); }); });
-    QObject::connect(page->chkalt, &QCheckBox::clicked, page,
+    QObject::connect(page->chkalt, &QCheckBox::toggled, page,
                      [this](bool checked) { stage.act([&] { session.chkalt_Click(checked); }); });
     return page;
 }

@@ -94,6 +94,10 @@ QWidget* Program::makehelp(QWidget* owner)
     const auto document = help::loaddata(help::completehelp, folders);
     auto* screen = new help::HelpScreen(look, help::readrtf(document.value_or("")), owner);
     QObject::connect(screen, &help::HelpScreen::cmdpic_Click, screen, [this, screen] { showpicture(screen); });
+    QObject::connect(screen, &QDialog::finished, screen, [this] {
+        if (picturescreen)
+            picturescreen->close();
+    });
     return screen;
 }
 

@@ -131,11 +131,9 @@ std::string fromwindows1252(std::string_view bytes)
 
 std::string decode(std::string bytes)
 {
-    if (!isutf8(bytes))
-        return fromwindows1252(bytes);
     if (bytes.starts_with(byteordermark))
         bytes.erase(0, byteordermark.size());
-    return bytes;
+    return isutf8(bytes) ? bytes : fromwindows1252(bytes);
 }
 
 std::size_t charactercount(std::string_view text)

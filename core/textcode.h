@@ -7,7 +7,7 @@
 
 namespace core {
 
-/// The text of a file's bytes, in UTF-8. Bytes that are UTF-8 stay as they are, a byte order mark in front is dropped;
+/// The text of a file's bytes, in UTF-8. A byte order mark in front is dropped. Bytes that are UTF-8 stay as they are;
 /// any others are read as Windows-1252, whose five unused bytes become control characters of the same number.
 std::string decode(std::string bytes);
 

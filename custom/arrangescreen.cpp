@@ -6,6 +6,8 @@
 #include "ui/readout.h"
 #include "ui/text.h"
 
+#include <QKeyEvent>
+
 namespace custom {
 namespace {
 
@@ -75,7 +77,6 @@ void ArrangeScreen::addplace(QGridLayout* grid, int place)
     grid->addWidget(box, row, column + 1);
     connect(box, &EntryBox::dropped, this, [this, place](int source) { Q_EMIT txtx_DragDrop(place, source); });
     connect(box, &EntryBox::chosen, this, [this, place] { choose(place); });
-    connect(box, &EntryBox::left, this, &ArrangeScreen::putback);
     roving->add(box);
     txtx.at(static_cast<std::size_t>(place)) = box;
 }
@@ -97,8 +98,8 @@ QBoxLayout* ArrangeScreen::addend()
 void ArrangeScreen::display()
 {
     followzoom();
-    if (carried && table.at(static_cast<std::size_t>(*carried)).name.empty())
-        carried.reset();
+    if (carried && table.at(static_cast<std::size_t>(*carried)).name != carriedname)
+        carried.reset(); // another entry has come to its place
     for (std::size_t place = 0; place < placecount; ++place)
         txtx.at(place)->display(ui::totext(table.at(place).name), carried == static_cast<int>(place));
     roving->leavehidden();
@@ -109,6 +110,7 @@ void ArrangeScreen::choose(int place)
 {
     if (!carried) {
         carried = place;
+        carriedname = table.at(static_cast<std::size_t>(place)).name;
         display();
         return;
     }
@@ -117,8 +119,11 @@ void ArrangeScreen::choose(int place)
     Q_EMIT txtx_DragDrop(place, source);
 }
 
-void ArrangeScreen::putback()
+/// Escape puts back what is picked up; otherwise it closes the screen.
+void ArrangeScreen::keyPressEvent(QKeyEvent* event)
 {
+    if (event->key() != Qt::Key_Escape || !carried)
+        return Companion::keyPressEvent(event);
     carried.reset();
     display();
 }
@@ -126,22 +131,31 @@ void ArrangeScreen::putback()
 /// Where a key leads among the used places; the place itself where it leads nowhere.
 int ArrangeScreen::neighbour(int place, Qt::Key pressed) const
 {
-    const int last = static_cast<int>(indexnew(table)) - 1;
-    const auto orstay = [&](int reached) { return reached < 0 || reached > last ? place : reached; };
+    constexpr int behind = static_cast<int>(placecount);
+    const auto orstay = [&](std::optional<int> reached) { return reached.value_or(place); };
     switch (pressed) {
     case Qt::Key_Up:
-        return orstay(place - 1);
+        return orstay(nextused(place, -1));
     case Qt::Key_Down:
-        return orstay(place + 1);
+        return orstay(nextused(place, 1));
     case Qt::Key_Left:
-        return orstay(place - placesincolumn);
+        return orstay(nextused(place, -placesincolumn));
     case Qt::Key_Right:
-        return orstay(place + placesincolumn);
+        return orstay(nextused(place, placesincolumn));
     case Qt::Key_Home:
-        return 0;
+        return orstay(nextused(-1, 1));
     default:
-        return last;
+        return orstay(nextused(behind, -1));
     }
+}
+
+/// The first used place in steps from `place`, which itself does not count.
+std::optional<int> ArrangeScreen::nextused(int place, int step) const
+{
+    for (int next = place + step; next >= 0 && next < static_cast<int>(placecount); next += step)
+        if (!table.at(static_cast<std::size_t>(next)).name.empty())
+            return next;
+    return std::nullopt;
 }
 
 } // namespace custom

@@ -33,18 +33,22 @@ public:
 Q_SIGNALS:
     void txtx_DragDrop(int target, int source); ///< places 0..50
 
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
+
 private:
     QGridLayout* addplaces();
     QBoxLayout* addend();
     void addplace(QGridLayout* grid, int place);
     void choose(int place);
-    void putback();
     int neighbour(int place, Qt::Key pressed) const;
+    std::optional<int> nextused(int place, int step) const;
 
     const CustomTable& table;
     ui::RovingFocus* roving;
     std::array<EntryBox*, placecount> txtx{};
     std::optional<int> carried; ///< the place that was picked up by keyboard
+    std::string carriedname;
 };
 
 } // namespace custom

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "custom/customscreen.h"
 
+#include "ui/menukeys.h"
 #include "ui/text.h"
 
 #include <QMenuBar>
@@ -13,18 +14,18 @@ struct MenuRow {
     const char* name;
     const char* caption;
     void (CustomScreen::*chosen)(); ///< none: closes the screen
-    bool enabled;
+    QKeyCombination keys{};         ///< what picks it without the menu
 };
 
 // clang-format off
 constexpr MenuRow fileitems[] = {
-//  name               caption               tells of                               enabled
-  { "mnuload",         "Load Custom File",   &CustomScreen::mnuload_Click,          true  },
-  { "mnusave",         "Save Custom File",   &CustomScreen::mnusave_Click,          true  },
-  { "mnuexit",         "Exit",               nullptr,                               true  },
+//  name               caption               tells of                               keys
+  { "mnuload",         "Load Custom File",   &CustomScreen::mnuload_Click,          Qt::CTRL | Qt::Key_O },
+  { "mnusave",         "Save Custom File",   &CustomScreen::mnusave_Click,          Qt::CTRL | Qt::Key_S },
+  { "mnuexit",         "Exit",               nullptr },
 };
 constexpr MenuRow helpitems[] = {
-  { "mnuhelpcomplete", "Help (complete)",    &CustomScreen::mnuhelpcomplete_Click,  true  },
+  { "mnuhelpcomplete", "Help (complete)",    &CustomScreen::mnuhelpcomplete_Click },
 };
 // clang-format on
 
@@ -32,7 +33,8 @@ void additem(QMenu* menu, const MenuRow& row, CustomScreen* screen)
 {
     QAction* action = menu->addAction(QString::fromLatin1(row.caption));
     action->setObjectName(QString::fromLatin1(row.name));
-    action->setEnabled(row.enabled);
+    if (row.keys != QKeyCombination())
+        action->setShortcut(row.keys);
     if (row.chosen != nullptr)
         QObject::connect(action, &QAction::triggered, screen, [screen, told = row.chosen] { (screen->*told)(); });
     else
@@ -66,6 +68,7 @@ void CustomScreen::addmenus()
     help->menuAction()->setObjectName(QStringLiteral("mnuHelptitle"));
     for (const MenuRow& row : helpitems)
         additem(help, row, this);
+    ui::addmenukeys(*menuBar());
     fitfont(menuBar(), ui::Type::text);
     fitfont(file, ui::Type::text);
     fitfont(help, ui::Type::text);
@@ -94,9 +97,7 @@ void CustomScreen::display()
 {
     followzoom();
     txtnum->settext(ui::totext(form.txtnum()));
-    txtnum->setAccessibleName(QStringLiteral("data number") + ui::totext(form.txtnum()));
     txtinfo->settext(ui::totext(form.txtinfo));
-    txtinfo->setAccessibleName(QStringLiteral("this place is ") + ui::totext(form.txtinfo));
     txtname->display(ui::totext(form.txtname), form.guarded());
     chkleft->setChecked(form.chkleft);
     Option2.at(static_cast<std::size_t>(form.Option2))->setChecked(true);
@@ -112,10 +113,7 @@ void CustomScreen::displaynotes()
         txtnote.at(box)->setAccessibleName(
             QStringLiteral("note of string %1, %2").arg(box + 1).arg(note.isEmpty() ? QStringLiteral("empty") : note));
     }
-    const QString selected = ui::totext(form.txtnote[selectionbox]);
-    selectednote->settext(selected);
-    selectednote->setAccessibleName(selected.isEmpty() ? QStringLiteral("no note selected")
-                                                       : QStringLiteral("selected note ") + selected);
+    selectednote->settext(ui::totext(form.txtnote[selectionbox]));
 }
 
 } // namespace custom

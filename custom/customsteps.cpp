@@ -67,11 +67,13 @@ void CustomScreen::addplace(QBoxLayout* card)
     row->addWidget(button("cmddown", "< back", "show the data number before",
                           [this] { stage.act([this] { form.cmddown_Click(); }); }));
     txtnum = readout("txtnum", ui::Type::reading, ui::Readout::Frame::box, {48, 28});
+    txtnum->setAccessibleName(QStringLiteral("data number"));
     txtnum->setToolTip(QStringLiteral("data number, 0 to 50"));
     row->addWidget(txtnum);
     row->addWidget(
         button("cmdup", "next >", "show the next data number", [this] { stage.act([this] { form.cmdup_Click(); }); }));
     txtinfo = readout("txtinfo", ui::Type::strong, ui::Readout::Frame::box, {92, 28});
+    txtinfo->setAccessibleName(QStringLiteral("this place is"));
     txtinfo->setToolTip(QStringLiteral("whether this data number is free or used"));
     row->addStretch(1);
     row->addWidget(txtinfo);
@@ -167,6 +169,7 @@ QBoxLayout* CustomScreen::addnotebuttons()
         grid->addWidget(note, i / buttonsinrow, i % buttonsinrow);
     }
     selectednote = readout("txtnote_6", ui::Type::reading, ui::Readout::Frame::root, {58, 32});
+    selectednote->setAccessibleName(QStringLiteral("selected note"));
     selectednote->setToolTip(QStringLiteral("selected note"));
     column->addLayout(grid);
     column->addWidget(selectednote);

@@ -20,6 +20,8 @@ struct Entry {
     std::string name; ///< empty: a free place
     /// Eight characters: hand ("0" right, anything else left), string layout, and the open notes of rows 5 upward to 0.
     std::string data;
+
+    bool operator==(const Entry&) const = default;
 };
 
 /// The user's tunings in the order in which they are offered; free places stand at the end.

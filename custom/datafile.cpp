@@ -136,9 +136,8 @@ PageAndData split(const std::string& text)
     if (issigned(text))
         return {.page = {}, .data = text};
     std::string page = core::withlinefeeds(text);
-    const std::size_t end = page.find_last_not_of('\n');
-    const std::size_t before = end == std::string::npos ? end : page.rfind('\n', end);
-    if (before != std::string::npos && std::string_view(page).substr(before + 1).starts_with(signature)) {
+    const std::size_t before = page.rfind("\n" + std::string(signature));
+    if (before != std::string::npos) {
         std::string data = page.substr(before + 1);
         const Unpacked last = unpack(data);
         if (last.reading == Reading::whole && last.header) {

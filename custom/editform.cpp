@@ -26,6 +26,11 @@ bool EditForm::boxvisible(std::size_t box) const
 void EditForm::formstart()
 {
     init();
+    showfree();
+}
+
+void EditForm::showfree()
+{
     place = std::min(indexnew(table), placecount - 1);
     textread();
 }
@@ -151,7 +156,7 @@ void EditForm::cmddown_Click()
     textread();
 }
 
-// Also after a refusal there is something to save, as a whole save at the end harms nobody.
+// The button marks a change even when a check refuses; see docs/behaviour.md.
 void EditForm::cmdsave_Click()
 {
     datasave();

@@ -39,11 +39,15 @@ public:
     std::string txtnum() const { return " " + std::to_string(place); }
     /// Whether the string choice has a string for note box `box`; the box of the selected note always shows.
     bool boxvisible(std::size_t box) const;
+    /// What is stored at the place.
+    const Entry& stored() const { return table.at(place); }
     /// Whether a stored entry is shown that may not be changed before the user was asked.
     bool guarded() const { return protectedplace; }
 
     /// Begins with a cleared form at the first free place; at the last place when all are used.
     void formstart();
+    /// Shows the first free place, or the last one, as it is stored.
+    void showfree();
     /// Clears the form: no name, no notes, right hand, six strings, no selected note.
     void init();
     /// Shows the place anew and forgets what was not stored. A free place keeps the hand and the string choice.

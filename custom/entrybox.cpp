@@ -64,7 +64,7 @@ void EntryBox::mouseMoveEvent(QMouseEvent* event)
 
 void EntryBox::mouseReleaseEvent(QMouseEvent* event)
 {
-    if (armed && event->button() == Qt::LeftButton)
+    if (armed && event->button() == Qt::LeftButton && rect().contains(event->position().toPoint()))
         Q_EMIT dropped(index);
     armed = false;
 }
@@ -116,8 +116,6 @@ void EntryBox::keyPressEvent(QKeyEvent* event)
     case Qt::Key_Return:
     case Qt::Key_Enter:
         return Q_EMIT chosen();
-    case Qt::Key_Escape:
-        return Q_EMIT left();
     default:
         QWidget::keyPressEvent(event);
     }
@@ -125,7 +123,7 @@ void EntryBox::keyPressEvent(QKeyEvent* event)
 
 void EntryBox::focusInEvent(QFocusEvent* event)
 {
-    ring = ui::bykeyboard(*event);
+    ring = ui::bykeyboard(*event, ring);
     update();
 }
 

@@ -24,7 +24,6 @@ public:
 Q_SIGNALS:
     void dropped(int source); ///< box `source` was dropped here, perhaps this one itself
     void chosen();            ///< Space or Enter
-    void left();              ///< Escape
 
 protected:
     void mousePressEvent(QMouseEvent* event) override;

@@ -7,7 +7,9 @@
 #include <QGridLayout>
 #include <QLabel>
 #include <QScreen>
+#include <QShowEvent>
 
+#include <algorithm>
 #include <utility>
 
 namespace help {
@@ -18,7 +20,9 @@ constexpr const char* description =
     "input, or will show possible chords output based on notes input. Contains many options including multiple stored "
     "stringed instruments and tuning, custom options for stringed instruments, chord print and more.";
 constexpr const char* notice = "Copyright (c) 1994, 2000, 2003, 2004 The tonefret developers";
-constexpr int textwidth = 340; ///< pixels at zoom 1
+constexpr int textwidth = 340;  ///< pixels at zoom 1
+constexpr int widthatone = 460; ///< of the screen, in pixels at zoom 1
+constexpr double share = 0.85;  ///< of the display, at most
 
 QLabel* label(const char* name, const QString& text, const QFont& font, QWidget* screen)
 {
@@ -44,6 +48,7 @@ AboutScreen::AboutScreen(ui::Look shown, const QPixmap& icon, const QString& ver
 {
     setObjectName(QStringLiteral("frmAbout"));
     setWindowTitle(QStringLiteral("About tonefret"));
+    look.setzoom(std::min(look.zoom(), screen()->availableSize().width() * share / widthatone));
     setPalette(look.palettefor(look.theme().surface));
     arrange(icon, version);
 }
@@ -83,6 +88,8 @@ void AboutScreen::arrange(const QPixmap& icon, const QString& version)
 void AboutScreen::showEvent(QShowEvent* event)
 {
     QDialog::showEvent(event);
+    if (event->spontaneous())
+        return; // back from the desktop's edge, where it stood
     move(screen()->availableGeometry().center() - rect().center());
 }
 

@@ -8,6 +8,7 @@
 
 #include <QHBoxLayout>
 #include <QScreen>
+#include <QShowEvent>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -121,6 +122,8 @@ QLayout* BasicHelpScreen::buttons()
 void BasicHelpScreen::showEvent(QShowEvent* event)
 {
     QDialog::showEvent(event);
+    if (event->spontaneous())
+        return; // back from the desktop's edge, where it stood
     const int wide = qRound(wanted.width() * look.zoom());
     resize(wide, std::max(sizeHint().height(), layout()->totalHeightForWidth(wide)));
     move(screen()->availableGeometry().center() - rect().center());

@@ -143,6 +143,8 @@ QColor Writer::readable(std::uint32_t colour) const
 
 void filldocument(QTextDocument& document, const std::vector<Paragraph>& paragraphs, const ui::Look& look)
 {
+    QTextCursor whole(&document);
+    whole.beginEditBlock(); // laid out once, at the end
     Writer writer(document, look);
     auto at = paragraphs.begin();
     while (at != paragraphs.end()) {
@@ -153,6 +155,7 @@ void filldocument(QTextDocument& document, const std::vector<Paragraph>& paragra
             writer.table({at, tableend});
         at = std::max(at, tableend);
     }
+    whole.endEditBlock();
 }
 
 } // namespace help

@@ -8,11 +8,14 @@
 #include "ui/text.h"
 
 #include <QGridLayout>
+#include <QGuiApplication>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QScreen>
 #include <QScrollBar>
+#include <QShowEvent>
 
+#include <algorithm>
 #include <array>
 #include <utility>
 
@@ -21,6 +24,7 @@ namespace {
 
 constexpr QSize comfortable(760, 620); ///< at zoom 1
 constexpr double share = 0.85;         ///< of the display, at most
+constexpr int narrowest = 680;         ///< of what stands above the text, in pixels at zoom 1
 
 ui::Button* button(const ui::Look& look, const char* name, const char* caption, const char* tip, QWidget* screen)
 {
@@ -39,11 +43,18 @@ QLabel* label(const ui::Look& look, const char* name, const char* text, QWidget*
     return made;
 }
 
+/// No larger than the display has room for.
+ui::Look within(ui::Look look, const QSize& display)
+{
+    look.setzoom(std::min(look.zoom(), display.width() * share / narrowest));
+    return look;
+}
+
 } // namespace
 
 HelpScreen::HelpScreen(ui::Look shown, const std::vector<Paragraph>& paragraphs, QWidget* owner)
     : QDialog(owner, Qt::Window),
-      look(std::move(shown)),
+      look(within(std::move(shown), QGuiApplication::primaryScreen()->availableSize())),
       cbo1(new ui::SelectorBox(look, this)),
       findtext(new QLineEdit(this)),
       helptext(new QTextEdit(this))
@@ -169,6 +180,8 @@ void HelpScreen::showatop()
 void HelpScreen::showEvent(QShowEvent* event)
 {
     QDialog::showEvent(event);
+    if (event->spontaneous())
+        return; // back from the desktop's edge, where it stood
     const QRect display = screen()->availableGeometry();
     resize((comfortable * look.zoom()).boundedTo(display.size() * share));
     move(display.center() - rect().center());

@@ -53,6 +53,7 @@ QGridLayout* captiongrid(const ui::Look& look, int inrow, QWidget* screen)
     for (int i = 0; const BasicCaption& caption : basiccaptions) {
         auto* badge = new QLabel(screen);
         badge->setPixmap(numberbadge(i + 1, look, screen->devicePixelRatioF()));
+        badge->setAccessibleName(QString::number(i + 1));
         auto* text = new QLabel(QString::fromLatin1(caption.text), screen);
         text->setObjectName(QString::fromLatin1(caption.label));
         text->setFont(look.font(ui::Type::text));

@@ -6,7 +6,9 @@
 #include "ui/button.h"
 
 #include <QLabel>
+#include <QRegularExpression>
 #include <QScreen>
+#include <QShowEvent>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -42,6 +44,8 @@ PictureScreen::PictureScreen(ui::Look shown, const QPixmap& picture, QWidget* ow
     image->setPixmap(scaledtowidth(picture, qRound(picturewidth * look.zoom()), devicePixelRatioF()));
     column->addWidget(image);
     column->addLayout(captiongrid(look, captionsinrow, this));
+    for (QLabel* caption : findChildren<QLabel*>(QRegularExpression(QStringLiteral("^Label"))))
+        caption->setObjectName(QStringLiteral("picture") + caption->objectName()); // the basic help has the plain names
     auto* closebut = new ui::Button(look, QStringLiteral("Return"), this);
     closebut->setObjectName(QStringLiteral("closebut"));
     connect(closebut, &QAbstractButton::clicked, this, &QDialog::close);
@@ -51,6 +55,8 @@ PictureScreen::PictureScreen(ui::Look shown, const QPixmap& picture, QWidget* ow
 void PictureScreen::showEvent(QShowEvent* event)
 {
     QDialog::showEvent(event);
+    if (event->spontaneous())
+        return; // back from the desktop's edge, where it stood
     move(screen()->availableGeometry().center() - rect().center());
 }
 

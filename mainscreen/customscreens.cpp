@@ -45,7 +45,7 @@ void Session::customexit()
 void Session::mnuarrange_Click()
 {
     if (!arrangeshown)
-        custom::datablankelim(customtable);
+        closegaps();
     arrangeshown = true;
     desktop.open(ui::Screen::arrange);
 }
@@ -54,7 +54,17 @@ void Session::txtx_DragDrop(int target, int source)
 {
     std::swap(customtable.at(static_cast<std::size_t>(target)), customtable.at(static_cast<std::size_t>(source)));
     customchanged = true;
-    if (customshown)
+    if (customshown && target != source)
+        editform.textread();
+}
+
+/// Closes the gaps between the entries. An open edit screen whose place now holds another entry shows that one, so that
+/// it is not overwritten unseen.
+void Session::closegaps()
+{
+    const custom::Entry before = editform.stored();
+    custom::datablankelim(customtable);
+    if (customshown && editform.stored() != before)
         editform.textread();
 }
 

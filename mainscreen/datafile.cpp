@@ -31,7 +31,7 @@ std::string failuretext(const char* what, const std::filesystem::path& file, con
 
 std::string keepfailuretext(const std::filesystem::path& file, const std::error_code& why)
 {
-    return lines({"Cannot keep a copy of the damaged file " + file.string(), why.message(),
+    return lines({"Cannot keep the file " + file.string() + " beside itself", why.message(),
                   "It is left as it is, and the settings are not saved"});
 }
 
@@ -51,6 +51,7 @@ void Session::loadcustom()
     if (read.failure)
         return;
     customtext = core::decode(std::move(read.bytes));
+    customout = customtext;
     keepfirst = custom::losestext(customtext);
     getinstring();
 }
@@ -60,13 +61,21 @@ void Session::savecustom()
     getoutstring();
     datafilename = datafile;
     datapath = startdir / datafile;
+    if (!keepdamaged(datapath))
+        return;
+    core::replacetext(datapath, customout + std::string(custom::lineend)); // a failure is not told of
+}
+
+/// Keeps a data file that could not be read whole beside itself, once. False: it could not, which was told.
+bool Session::keepdamaged(const std::filesystem::path& file)
+{
     if (keepfirst)
-        if (const auto failure = custom::keepbeside(datapath)) {
-            desktop.tell(ui::Icon::critical, keepfailuretext(datapath, failure));
-            return;
+        if (const auto failure = custom::keepbeside(file)) {
+            desktop.tell(ui::Icon::critical, keepfailuretext(file, failure));
+            return false;
         }
     keepfirst = false;
-    core::replacetext(datapath, customout + std::string(custom::lineend)); // a failure is not told of
+    return true;
 }
 
 void Session::getinstring()
@@ -128,7 +137,7 @@ custom::Header Session::header() const
 
 void Session::getoutstring()
 {
-    custom::datablankelim(customtable);
+    closegaps();
     custom::Packed packed = custom::pack(header(), customtable);
     customout = std::move(packed.text);
     if (packed.faulty)
@@ -185,7 +194,7 @@ void Session::loadtext(const std::string& text)
     customtext = std::move(*parts.data);
     getinstring();
     if (customshown)
-        editform.formstart();
+        editform.showfree();
     presets();
     gettuning();
     customchanged = true;
@@ -204,11 +213,25 @@ void Session::Saveas(SaveKind kind)
     const std::string text = kind == SaveKind::custom ? custom::join(page.text, customout) : page.text;
     // Without any text the file is emptied all the same.
     const std::string bytes = text.empty() ? text : text + std::string(custom::lineend);
+    if (isdatafile(datapath)) {
+        if (!keepdamaged(datapath))
+            return;
+        if (kind == SaveKind::custom)
+            customchanged = true; // the end writes it as a data file alone, which the next start can read
+        else
+            keepfirst = true; // the end writes data over this page
+    }
     if (const auto failure = core::replacetext(datapath, bytes))
         desktop.tell(ui::Icon::critical, failuretext("Cannot write", datapath, failure));
     else if (text.empty())
         desktop.tell(ui::Icon::information,
                      lines({"Problem:  No data in chord printout area,", "have to abort, sorry"}));
+}
+
+bool Session::isdatafile(const std::filesystem::path& file) const
+{
+    std::error_code missing;
+    return std::filesystem::equivalent(file, startdir / datafile, missing);
 }
 
 std::optional<std::filesystem::path> Session::picksave(std::span<const ui::FileFilter> filters, const char* ending)

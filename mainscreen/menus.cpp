@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "mainscreen/menus.h"
 
+#include "ui/menukeys.h"
+
 #include <QMenu>
 
 #include <array>
@@ -23,8 +25,10 @@ struct MenuRow {
     Kind kind;
     const char* name;
     const char* caption;
-    void (Session::*handler)() = nullptr;   ///< none: nothing to do yet, the item is disabled
-    bool (*mark)(const Session&) = nullptr; ///< the state of its check mark
+    void (Session::*handler)() = nullptr;     ///< none: nothing to do yet, the item is disabled
+    bool (*mark)(const Session&) = nullptr;   ///< the state of its check mark
+    QKeyCombination keys{};                   ///< what picks it without the menu
+    bool (*usable)(const Session&) = nullptr; ///< whether it can be picked; none: always
 };
 
 template <bool SpellingMarks::*Mark>
@@ -44,17 +48,32 @@ bool tips(const Session& session)
     return session.mnutips;
 }
 
+bool chord(const Session& session)
+{
+    return session.cancopychord();
+}
+
+bool chart(const Session& session)
+{
+    return session.cancopychart();
+}
+
+constexpr QKeyCombination nokeys{};
+
 // clang-format off
 constexpr auto rows = std::to_array<MenuRow>({
-//  kind             name             caption                                        handler                   check mark
+//  kind             name             caption                                        handler                   check mark, keys, usable
   { Kind::menu,      "mnufile",       "File" },
-  { Kind::item,      "mnuload",       "Load Custom Settings",                        &Session::mnuload_Click },
-  { Kind::item,      "mnusave",       "Save Custom Settings",                        &Session::mnusave_Click },
+  { Kind::item,      "mnuload",       "Load Custom Settings",                        &Session::mnuload_Click,  nullptr, Qt::CTRL | Qt::Key_O },
+  { Kind::item,      "mnusave",       "Save Custom Settings",                        &Session::mnusave_Click,  nullptr, Qt::CTRL | Qt::Key_S },
   { Kind::item,      "mnuexit",       "Exit (Quit Program)",                         &Session::tonefretexit },
   { Kind::menu,      "mnuedit",       "Edit and Custom" },
   { Kind::item,      "mnucustom",     "Edit Custom Settings",                        &Session::mnucustom_Click },
   { Kind::item,      "mnuarrange",    "Arrange Custom Order",                        &Session::mnuarrange_Click },
   { Kind::check,     "mnutips",       "Toggle main tips",                            &Session::mnutips_Click,  tips },
+  { Kind::separator, "mnu6",          "" },
+  { Kind::item,      "mnucopychord",  "Copy Chord",                                  &Session::mnucopychord_Click, nullptr, Qt::CTRL | Qt::Key_C, chord },
+  { Kind::item,      "mnucopychart",  "Copy Last Chart",                             &Session::mnucopychart_Click, nullptr, nokeys, chart },
   { Kind::menu,      "mnuflattype",   "Sharps and Flats" },
   { Kind::check,     "mnusharp",      "Mostly Sharps",                               &Session::dosharps,       spelling<&SpellingMarks::mnusharp> },
   { Kind::check,     "mnuflat",       "Mostly Flats",                                &Session::doflats,        spelling<&SpellingMarks::mnuflat> },
@@ -65,14 +84,14 @@ constexpr auto rows = std::to_array<MenuRow>({
   { Kind::check,     "mnuboth",       "Keyboard Itself - show both",                 &Session::mnuboth_Click,  spelling<&SpellingMarks::mnuboth> },
   { Kind::menu,      "mnuprint",      "Print Chords" },
   { Kind::item,      "mnusnap",       "Snapshot Chord Text",                         &Session::photochord },
-  { Kind::item,      "mnuviewprint",  "View Print Text",                             &Session::mnuviewprint_Click },
+  { Kind::item,      "mnuviewprint",  "View Print Text",                             &Session::mnuviewprint_Click, nullptr, Qt::CTRL | Qt::Key_P },
   { Kind::check,     "mnuguitar",     "Stringed Instrument Chords - click to set",   &Session::mnuguitar_Click, mode<&print::ModeMarks::mnuguitar> },
   { Kind::check,     "mnupiano",      "Keyboard Chords - click to set",              &Session::mnupiano_Click, mode<&print::ModeMarks::mnupiano> },
   { Kind::item,      "mnuphotoclear", "Clear Photos and Reset Print Data",           &Session::mnuphotoclear_Click },
   { Kind::item,      "mnuprintchord", "Print the chords",                            &Session::chordprint },
   { Kind::menu,      "mnuhelp",       "Help" },
   { Kind::item,      "mnubhelp",      "Basic Help",                                  &Session::mnubhelp_Click },
-  { Kind::item,      "mnuchelp",      "Help - Complete",                             &Session::mnuchelp_Click },
+  { Kind::item,      "mnuchelp",      "Help - Complete",                             &Session::mnuchelp_Click, nullptr, Qt::Key_F1 },
   { Kind::item,      "mnuabout",      "About",                                       &Session::mnuabout_Click },
 });
 // clang-format on
@@ -92,6 +111,10 @@ QAction* additem(QMenu& menu, const MenuRow& row, Session& session, ui::Stage& s
     action->setSeparator(row.kind == Kind::separator);
     action->setCheckable(row.kind == Kind::check);
     action->setEnabled(row.handler != nullptr || action->isSeparator());
+    if (row.keys != nokeys)
+        action->setShortcut(row.keys);
+    if (row.keys == QKeyCombination(Qt::Key_F1))
+        action->setShortcutContext(Qt::ApplicationShortcut); // help is there on every screen
     if (row.handler)
         QObject::connect(action, &QAction::triggered, action,
                          [&session, &stage, handler = row.handler] { stage.act([&] { (session.*handler)(); }); });
@@ -111,13 +134,18 @@ Menus::Menus(QMenuBar& bar, Session& shown, ui::Stage& entered) : session(shown)
         QAction* action = additem(*menu, row, session, entered);
         if (row.mark)
             marked.push_back({action, row.mark});
+        if (row.usable)
+            usable.push_back({action, row.usable});
     }
+    ui::addmenukeys(bar);
 }
 
 void Menus::display()
 {
-    for (const Marked& item : marked)
-        item.action->setChecked(item.mark(session));
+    for (const Asking& item : marked)
+        item.action->setChecked(item.question(session));
+    for (const Asking& item : usable)
+        item.action->setEnabled(item.question(session));
 }
 
 } // namespace mainscreen

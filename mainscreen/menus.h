@@ -20,13 +20,15 @@ public:
     void display();
 
 private:
-    struct Marked {
+    using Question = bool (*)(const Session&);
+    struct Asking {
         QAction* action;
-        bool (*mark)(const Session&);
+        Question question;
     };
 
     Session& session;
-    std::vector<Marked> marked;
+    std::vector<Asking> marked; ///< items whose check mark shows the answer
+    std::vector<Asking> usable; ///< items that can be picked while the answer is yes
 };
 
 } // namespace mainscreen

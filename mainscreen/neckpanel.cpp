@@ -4,6 +4,7 @@
 
 #include "mainscreen/neckpicture.h"
 #include "mainscreen/places.h"
+#include "ui/marks.h"
 
 #include <QLinearGradient>
 #include <QPainter>
@@ -134,15 +135,13 @@ void NeckPanel::displaycell(int index)
 {
     const instruments::Cell& state = session.fretboard.cell.at(static_cast<std::size_t>(index));
     ui::NoteCell* cell = Text1.at(static_cast<std::size_t>(index));
-    const QString name = spokenname(index);
-    if (cell->accessibleName() != name)
-        cell->setAccessibleName(name);
+    rename(cell, spokenname(index) + ui::spokenmark(state.back));
     cell->display(totext(state.text), state.back);
     if (cell->isHidden() == state.visible)
         cell->setVisible(state.visible);
 }
 
-/// "E string, fret 3, G": how the cell is read aloud.
+/// "E string, fret 3, G": how the cell is read aloud, before its mark.
 QString NeckPanel::spokenname(int index) const
 {
     const auto note = [this](int cell) {
@@ -162,6 +161,7 @@ void NeckPanel::displaycapo()
     const ui::Twips height = neck.height + overhang;
     canvas.place(capobar, {marker.barleft, top, barwidth, height});
     canvas.place(capofollower, {marker.followerleft, top, followerwidth, height});
+    rename(capobar, QString::fromLatin1("Capo, fret %1").arg(session.PositionFret));
     capobar->setVisible(marker.barvisible);
     capofollower->setVisible(marker.followervisible);
 }

@@ -20,13 +20,15 @@ void paintcard(QPainter& painter, const ui::Look& look)
 
 } // namespace
 
-OutputPanel::OutputPanel(ui::Canvas& drawn, Session& shown, ui::Stage& entered) : Panel(drawn, shown, entered)
+OutputPanel::OutputPanel(ui::Canvas& drawn, Session& shown, ui::Stage& entered)
+    : Panel(drawn, shown, entered), spoken(new ui::Spoken(&canvas))
 {
     canvas.addbackdrop(paintcard);
     addcaptions();
     addreadouts();
     reset = put(new ui::Button(canvas.look(), QString(), &canvas), membername("key", resetkey), places::reset);
     onclick(reset, &Session::key_Click, resetkey);
+    spoken->setObjectName(QStringLiteral("spokenchord"));
     cordcam = put(new ui::Button(canvas.look(), QStringLiteral("chord cam"), &canvas), QStringLiteral("cordcam"),
                   places::camera);
     onclick(cordcam, &Session::photochord);
@@ -70,6 +72,7 @@ void OutputPanel::display()
         note.at(i)->settext(totext(session.note.at(i)));
     cordtyp1->settext(totext(session.cordtyp1));
     cordtyp2->settext(totext(session.cordtyp2));
+    spoken->say(totext(session.announcement()));
     const Key& state = session.keyboard.key.at(resetkey);
     if (reset->text() != totext(state.caption))
         reset->setText(totext(state.caption));

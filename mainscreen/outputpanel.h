@@ -3,6 +3,7 @@
 #pragma once
 
 #include "mainscreen/panel.h"
+#include "ui/spoken.h"
 
 namespace mainscreen {
 
@@ -26,6 +27,7 @@ private:
     ui::Readout* cordtyp2 = nullptr;
     ui::Button* reset = nullptr;
     ui::Button* cordcam = nullptr;
+    ui::Spoken* spoken;
 };
 
 } // namespace mainscreen

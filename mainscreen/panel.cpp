@@ -18,6 +18,12 @@ void Panel::settip(QWidget* control, std::string_view tip)
         control->setAccessibleDescription(totext(tip));
 }
 
+void Panel::rename(QWidget* control, const QString& spokenname)
+{
+    if (control->accessibleName() != spokenname)
+        control->setAccessibleName(spokenname);
+}
+
 void Panel::onclick(QAbstractButton* button, void (Session::*handler)())
 {
     QObject::connect(button, &QAbstractButton::clicked, button,

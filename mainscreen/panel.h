@@ -42,6 +42,9 @@ protected:
     /// The tip also describes the control to assistive technology, and does so while tips are switched off.
     static void settip(QWidget* control, std::string_view tip);
 
+    /// Gives a control the name by which it is read aloud, if that is a new one.
+    static void rename(QWidget* control, const QString& spokenname);
+
     /// A click runs a handler of the session.
     void onclick(QAbstractButton* button, void (Session::*handler)());
     void onclick(QAbstractButton* button, void (Session::*handler)(int), int index);

@@ -3,6 +3,7 @@
 #include "mainscreen/pianopanel.h"
 
 #include "mainscreen/places.h"
+#include "ui/marks.h"
 
 #include <QPainter>
 
@@ -21,13 +22,13 @@ void paintcase(QPainter& painter, const ui::Look& look)
     painter.fillRect(look.place(places::felt), QColor(0x9E, 0x2B, 0x2B));
 }
 
-/// "C sharp key, lower octave": how the key is read aloud.
-QString spokenname(int k)
+/// "C sharp key, lower octave, in the chord": how the key is read aloud.
+QString spokenname(int k, core::Colour back)
 {
     QString note = totext(core::sharpnames.at(static_cast<std::size_t>(k % core::octave)));
     note.replace(QLatin1Char('#'), QLatin1String(" sharp"));
     const char* octave = k < core::octave ? "lower octave" : k < 2 * core::octave ? "upper octave" : "top";
-    return QString::fromLatin1("%1 key, %2").arg(note, QLatin1String(octave));
+    return QString::fromLatin1("%1 key, %2%3").arg(note, QLatin1String(octave), ui::spokenmark(back));
 }
 
 /// To the sides by semitones, up and down by octaves.
@@ -69,7 +70,6 @@ void PianoPanel::addkey(int k)
 {
     const auto kind = core::isblack(k) ? ui::PianoKey::Kind::black : ui::PianoKey::Kind::white;
     auto* made = put(new ui::PianoKey(canvas.look(), kind, &canvas), membername("key", k), places::keyplace(k));
-    made->setAccessibleName(spokenname(k));
     onclick(made, &Session::key_Click, k);
     key.at(static_cast<std::size_t>(k)) = made;
 }
@@ -79,6 +79,7 @@ void PianoPanel::display()
     for (std::size_t k = 0; k < key.size(); ++k) {
         const Key& state = session.keyboard.key.at(k);
         key.at(k)->display(totext(state.caption), state.back);
+        rename(key.at(k), spokenname(static_cast<int>(k), state.back));
     }
 }
 

@@ -239,6 +239,14 @@ public:
     void loadpage(const std::string& text);
     void mprint_mnusave_Click();
 
+    // What is copied and what is said
+    std::string chordtext() const; ///< "C major: C E G", the notes alone where they have no name; empty without notes
+    std::string announcement() const; ///< the same with the alternate: "C minor 7th: C Eb G Bb; also Eb major 6th"
+    bool cancopychord() const { return !chordtext().empty(); }
+    bool cancopychart() const { return !print::lastchart(camera).empty(); }
+    void mnucopychord_Click(); ///< puts `chordtext` on the clipboard
+    void mnucopychart_Click(); ///< puts the last snapshot there, as the page would get it
+
     // Printing
     void chordprint(); ///< opens the print dialog
     void txttop_Change(const std::string& text);
@@ -280,6 +288,11 @@ private:
     std::optional<std::filesystem::path> pickpdf();
     /// Lets the user pick a file to save to, and asks before one is overwritten. A name without an ending gets
     /// `ending`.
+    void guarded(void (Session::*step)());
+    void saveatend();
+    void closegaps();
+    bool keepdamaged(const std::filesystem::path& file);
+    bool isdatafile(const std::filesystem::path& file) const;
     std::optional<std::filesystem::path> picksave(std::span<const ui::FileFilter> filters, const char* ending);
 
     ui::Desktop& desktop;

@@ -51,6 +51,23 @@ void Session::gureset()
     fretboard.resetcolours();
 }
 
+/// A step of the end: what it throws is told, and the end goes on.
+void Session::guarded(void (Session::*step)())
+{
+    try {
+        (this->*step)();
+    } catch (const std::exception& failure) {
+        desktop.tell(ui::Icon::critical, failure.what());
+    }
+}
+
+void Session::saveatend()
+{
+    checksave();
+    if (customchanged)
+        savecustom();
+}
+
 void Session::tonefretexit()
 {
     if (ended)
@@ -58,14 +75,8 @@ void Session::tonefretexit()
     ended = true;
     customshown = false;
     arrangeshown = false;
-    try {
-        mexit();
-        checksave();
-        if (customchanged)
-            savecustom();
-    } catch (const std::exception& failure) {
-        desktop.tell(ui::Icon::critical, failure.what());
-    }
+    guarded(&Session::mexit);
+    guarded(&Session::saveatend);
     desktop.leave();
 }
 

@@ -29,6 +29,9 @@ TransposePanel::TransposePanel(ui::Canvas& drawn, Session& shown, ui::Stage& ent
                 put(new ui::Readout(canvas.look(), ui::Type::text, ui::Readout::Frame::box, Qt::AlignHCenter, &canvas),
                     membername("trans1", k + rowlength * static_cast<int>(row)), places::scaleplace(row, k));
             readout->fit(ui::widestname());
+            readout->setAccessibleName(QString::fromLatin1("%1 row, place %2")
+                                           .arg(QLatin1String(row == upperrow ? "Upper" : "Lower"))
+                                           .arg(k + 1));
             trans1.at(row).at(static_cast<std::size_t>(k)) = readout;
         }
     addshifts();

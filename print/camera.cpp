@@ -119,6 +119,15 @@ std::string takeblock(Camera& camera)
     return text;
 }
 
+std::string lastchart(Camera camera)
+{
+    if (camera.snapshot.line[chordnameline].empty())
+        return {};
+    place(camera);
+    constexpr std::size_t emptylines = 2; // before a block
+    return takeblock(camera).substr(emptylines);
+}
+
 std::string keyboardheading()
 {
     return "Chords:  KEYBOARD     (* = keys to press, + = alternate choices)";

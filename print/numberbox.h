@@ -11,6 +11,8 @@ namespace print {
 /// What stands around a number: a box that takes any text, and the arrows that lower and raise it.
 struct NumberRow {
     const char* caption;
+    const char* captionname;
+    const char* spoken; ///< what the number is, for those who hear it: "top margin"
     const char* box;
     const char* down;
     const char* downtip;

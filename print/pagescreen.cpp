@@ -3,9 +3,11 @@
 #include "print/pagescreen.h"
 
 #include "print/typednumber.h"
+#include "ui/menukeys.h"
 #include "ui/text.h"
 
 #include <QCloseEvent>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QMenuBar>
 #include <QScreen>
@@ -14,17 +16,24 @@ namespace print {
 namespace {
 
 // clang-format off
-constexpr NumberRow characterrow{"Characters / line : ", "txtchar", "cmdchardown", "less characters per line",
+constexpr NumberRow characterrow{"Characters / line : ", "charactersperline", "characters per line", "txtchar", "cmdchardown", "less characters per line",
                                  "cmdcharup", "more characters per line", 130};
-constexpr NumberRow spacingrow{"Chord Spacing: ", "txtspace", "cmdspacedown", "less spacing between chords",
+constexpr NumberRow spacingrow{"Chord Spacing: ", "chordspacing", "chord spacing", "txtspace", "cmdspacedown", "less spacing between chords",
                                "cmdspaceup", "more spacing between chords", 130};
-constexpr NumberRow fontrow{"Change Font Size", "txtfont", "cmddownfont", "lower the font size",
+constexpr NumberRow fontrow{"Change Font Size", "changefontsize", "font size", "txtfont", "cmddownfont", "lower the font size",
                             "cmdupfont", "raise the font size", 130};
 // clang-format on
 constexpr const char* cleartip = "clears the print screen and all print data"; // the print button has it too
 constexpr int charactersinview = 80;
 constexpr int heightinview = 620; // pixels at zoom 1
 constexpr double usable = 0.9;    // of the display's free area, at most
+
+/// Without telling of it.
+void setchecked(QCheckBox* box, bool checked)
+{
+    const QSignalBlocker quiet(box);
+    box->setChecked(checked);
+}
 
 } // namespace
 
@@ -69,8 +78,8 @@ void PageScreen::addmenus()
         return menu;
     };
     QMenu* file = addmenu("mnufile", "file");
-    additem(file, "mnuload", "Load Chord Text File", &PageScreen::mnuload_Click);
-    additem(file, "mnusave", "Save Chord Text File", &PageScreen::mnusave_Click);
+    additem(file, "mnuload", "Load Chord Text File", &PageScreen::mnuload_Click)->setShortcut(Qt::CTRL | Qt::Key_O);
+    additem(file, "mnusave", "Save Chord Text File", &PageScreen::mnusave_Click)->setShortcut(Qt::CTRL | Qt::Key_S);
     additem(file, "mnuexit", "Exit", &PageScreen::cmdret_Click);
     QMenu* modes = addmenu("mnuprintmain", "Print Chords");
     mnuguitar = additem(modes, "mnuguitar", "Stringed Instrument Chords - click to set", &PageScreen::mnuguitar_Click);
@@ -79,7 +88,9 @@ void PageScreen::addmenus()
     mnupiano->setCheckable(true);
     QAction* print = menuBar()->addAction(QStringLiteral("Print"), this, &PageScreen::cmdprint_Click);
     print->setObjectName(QStringLiteral("mnuprint"));
+    print->setShortcut(Qt::CTRL | Qt::Key_P);
     additem(addmenu("mnuhelp", "Help"), "mnuhelpcomplete", "Help - complete", &PageScreen::mnuhelpcomplete_Click);
+    ui::addmenukeys(*menuBar());
 }
 
 QAction* PageScreen::additem(QMenu* menu, const char* name, const char* caption, Signal told)
@@ -172,8 +183,8 @@ void PageScreen::display(const Page& page, const ModeMarks& marks)
     characters->display(page.txtchar);
     spacing->display(page.txtspace);
     font->display(page.txtfont);
-    chkmult->setChecked(page.chkmult);
-    chkalt->setChecked(page.chkalt);
+    setchecked(chkmult, page.chkmult);
+    setchecked(chkalt, page.chkalt);
     txtlines->setText(ui::totext(page.txtlines));
     mnuguitar->setChecked(marks.mnuguitar);
     mnupiano->setChecked(marks.mnupiano);
@@ -181,6 +192,14 @@ void PageScreen::display(const Page& page, const ModeMarks& marks)
         return;
     const QSize room = screen()->availableGeometry().size() * usable;
     resize(QSize(rtbprint->widthfor(charactersinview), qRound(heightinview * look.zoom())).boundedTo(room));
+}
+
+void PageScreen::keyPressEvent(QKeyEvent* event)
+{
+    if (event->key() == Qt::Key_Escape)
+        close();
+    else
+        QMainWindow::keyPressEvent(event);
 }
 
 void PageScreen::closeEvent(QCloseEvent* event)

@@ -55,8 +55,9 @@ void Paper::display(const std::string& text)
 
 void Paper::setpoints(int points)
 {
-    if (points < 1 || font().pointSize() == points)
+    if (points < 1 || points == shownpoints)
         return;
+    shownpoints = points;
     QFont fixed(QStringLiteral("Courier New"), points);
     fixed.setStyleHint(QFont::TypeWriter);
     fixed.setFixedPitch(true);

@@ -36,7 +36,8 @@ private:
 
     const ui::Look& look;
     std::string shown;
-    int width = 0;
+    int width = 0;       ///< characters
+    int shownpoints = 0; ///< 0: none set yet
 };
 
 } // namespace print

@@ -10,9 +10,9 @@ namespace {
 
 // The arrows' tips are those of the print page's, one of them with its slip of the pen; they are kept so.
 // clang-format off
-constexpr NumberRow toprow{"Top Margin (number of lines)", "txttop", "cmdtopdown", "less characters per line",
+constexpr NumberRow toprow{"Top Margin (number of lines)", "topmargin", "top margin", "txttop", "cmdtopdown", "less characters per line",
                            "cmdtopup", "more characters per line", 190};
-constexpr NumberRow leftrow{"Left Margin (character spaces)", "txtleft", "cmdleftdown", "less sp[acing between chords",
+constexpr NumberRow leftrow{"Left Margin (character spaces)", "leftmargin", "left margin", "txtleft", "cmdleftdown", "less sp[acing between chords",
                             "cmdleftup", "more spacing between chords", 190};
 // clang-format on
 
@@ -39,7 +39,9 @@ PrintDialog::PrintDialog(const ui::Look& shown, QWidget* owner)
     column->addSpacing(room / 2);
     auto* buttons = new QHBoxLayout;
     buttons->addStretch();
-    buttons->addWidget(addbutton("cmdprint", "PRINT", &PrintDialog::cmdprint_Click));
+    auto* print = addbutton("cmdprint", "PRINT", &PrintDialog::cmdprint_Click);
+    print->setDefault(true);
+    buttons->addWidget(print);
     buttons->addWidget(addbutton("cmdcancel", "CANCEL", &PrintDialog::cmdcancel_Click));
     column->addLayout(buttons);
 }
@@ -52,7 +54,7 @@ QWidget* PrintDialog::addlabel(const char* name, const char* text, ui::Type type
     return label;
 }
 
-QWidget* PrintDialog::addbutton(const char* name, const char* caption, void (PrintDialog::*told)())
+QPushButton* PrintDialog::addbutton(const char* name, const char* caption, void (PrintDialog::*told)())
 {
     auto* button = new ui::Button(look, QString::fromLatin1(caption), this);
     button->setObjectName(QString::fromLatin1(name));

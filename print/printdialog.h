@@ -6,6 +6,7 @@
 #include "print/page.h"
 
 #include <QDialog>
+#include <QPushButton>
 
 namespace print {
 
@@ -27,7 +28,7 @@ Q_SIGNALS:
 
 private:
     QWidget* addlabel(const char* name, const char* text, ui::Type type);
-    QWidget* addbutton(const char* name, const char* caption, void (PrintDialog::*told)());
+    QPushButton* addbutton(const char* name, const char* caption, void (PrintDialog::*told)());
 
     const ui::Look& look;
 };

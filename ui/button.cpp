@@ -100,7 +100,7 @@ void Button::paintEvent(QPaintEvent* /*event*/)
 
 void Button::focusInEvent(QFocusEvent* event)
 {
-    ring = bykeyboard(*event);
+    ring = bykeyboard(*event, ring);
     QPushButton::focusInEvent(event);
 }
 

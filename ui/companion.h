@@ -27,7 +27,8 @@ private:
 };
 
 /// A screen that stands over the main screen: as large as the main screen's zoom makes it, or as the display has room
-/// for, in the middle of the display. Its size follows from what stands on it.
+/// for, in the middle of the display. Its size follows from what stands on it. Escape closes it, where the control that
+/// has the keyboard has no use for it.
 class Companion : public QMainWindow {
     Q_OBJECT
 
@@ -54,6 +55,7 @@ protected:
     void showEvent(QShowEvent* event) override;
     void changeEvent(QEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
 
     Look look;
 

@@ -75,6 +75,9 @@ public:
     virtual void open(Screen screen) = 0;
     virtual void close(Screen screen) = 0;
 
+    /// Puts a text on the clipboard.
+    virtual void copy(const std::string& text) = 0;
+
     /// The sound of the desktop, once.
     virtual void beep() = 0;
 

@@ -30,7 +30,7 @@ const Theme& darktheme()
                              .card = QColor(0x2D3035),
                              .hairline = QColor(0x3D4147),
                              .text = QColor(0xECEAE4),
-                             .label = QColor(0x9BA0A8),
+                             .label = QColor(0xAAAFB6),
                              .button = QColor(0x32363C),
                              .hover = QColor(0x3B4046),
                              .pressed = QColor(0xECEAE4),
@@ -80,6 +80,7 @@ QPalette Look::palettefor(const QColor& ground) const
     palette.setColor(QPalette::ButtonText, current->text);
     palette.setColor(QPalette::Base, ground);
     palette.setColor(QPalette::Text, current->text);
+    palette.setColor(QPalette::PlaceholderText, current->label);
     palette.setColor(QPalette::Highlight, current->accent);
     palette.setColor(QPalette::HighlightedText, current->accenttext);
     return palette;

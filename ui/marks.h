@@ -5,6 +5,7 @@
 #include "core/display.h"
 
 #include <QColor>
+#include <QString>
 
 namespace ui {
 
@@ -18,6 +19,12 @@ inline QColor markink()
 inline bool ismark(core::Colour colour)
 {
     return colour == core::darkgrey || colour == core::midgrey;
+}
+
+/// How the colour of a key or a cell is read aloud, behind its name; empty for one at rest.
+inline QString spokenmark(core::Colour colour)
+{
+    return ismark(colour) ? QStringLiteral(", in the chord") : QString();
 }
 
 /// Not valid for `nocolour`.

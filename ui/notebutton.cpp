@@ -27,7 +27,7 @@ void NoteButton::display(const QString& caption, core::Colour colour)
 
 void NoteButton::focusInEvent(QFocusEvent* event)
 {
-    ring = bykeyboard(*event);
+    ring = bykeyboard(*event, ring);
     QAbstractButton::focusInEvent(event);
 }
 

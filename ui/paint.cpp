@@ -48,8 +48,11 @@ void paintfocus(QPainter& painter, const Look& look, const QRectF& box, double c
     painter.drawRoundedRect(box.adjusted(half, half, -half, -half), corner * look.zoom(), corner * look.zoom());
 }
 
-bool bykeyboard(const QFocusEvent& event)
+bool bykeyboard(const QFocusEvent& event, bool before)
 {
+    if (event.reason() == Qt::ActiveWindowFocusReason || event.reason() == Qt::PopupFocusReason ||
+        event.reason() == Qt::MenuBarFocusReason)
+        return before;
     return event.reason() == Qt::TabFocusReason || event.reason() == Qt::BacktabFocusReason ||
            event.reason() == Qt::ShortcutFocusReason;
 }

@@ -31,8 +31,9 @@ void painttext(QPainter& painter, const QRectF& box, const QString& text, const 
 /// The ring that shows where the keyboard acts, just inside `box`.
 void paintfocus(QPainter& painter, const Look& look, const QRectF& box, double corner);
 
-/// Whether a control got the focus by a key, so that it shows the ring.
-bool bykeyboard(const QFocusEvent& event);
+/// Whether a control got the focus by a key, so that it shows the ring. What comes back from a menu, a list or another
+/// window is as it was `before`.
+bool bykeyboard(const QFocusEvent& event, bool before);
 
 /// A solid triangle that points left or right, centred in `box`.
 void paintarrow(QPainter& painter, const Look& look, const QRectF& box, Qt::ArrowType direction, const QColor& colour);

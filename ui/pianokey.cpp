@@ -61,8 +61,8 @@ void PianoKey::paintbody(QPainter& painter) const
     }
     if (!ismark(back))
         painter.fillPath(shape, shade);
-    if (isDown())
-        painter.fillPath(shape, QColor(0, 0, 0, 28));
+    if (isDown()) // a mark becomes lighter, so that its name stays legible
+        painter.fillPath(shape, ismark(back) ? QColor(255, 255, 255, 48) : QColor(0, 0, 0, 28));
     const QColor edge = white ? QColor(0x8C, 0x88, 0x7E) : QColor(0x1C, 0x1E, 0x22);
     painter.strokePath(shape, QPen(edge, white ? line : 1.3 * line));
 }

@@ -3,6 +3,7 @@
 #include "ui/qtdesktop.h"
 
 #include <QApplication>
+#include <QClipboard>
 #include <QDir>
 #include <QFile>
 #include <QFileDialog>
@@ -63,6 +64,8 @@ std::optional<std::filesystem::path> QtDesktop::pickfile(Direction direction, st
 {
     showall();
     QFileDialog dialog(owner(), QString(), pickfolder.isEmpty() ? QDir::currentPath() : pickfolder);
+    dialog.setObjectName(direction == Direction::open ? QStringLiteral("CommonDialog1")
+                                                      : QStringLiteral("CommonDialog2"));
     dialog.setAcceptMode(direction == Direction::open ? QFileDialog::AcceptOpen : QFileDialog::AcceptSave);
     dialog.setFileMode(direction == Direction::open ? QFileDialog::ExistingFile : QFileDialog::AnyFile);
     dialog.setOption(QFileDialog::DontConfirmOverwrite);
@@ -77,12 +80,20 @@ std::optional<std::filesystem::path> QtDesktop::pickfile(Direction direction, st
     return QFile::encodeName(dialog.selectedFiles().constFirst()).toStdString();
 }
 
+/// Does away with a closed screen, whose own procedure may still be running; none finds it by its name any more.
+void QtDesktop::retire(QWidget& screen)
+{
+    screen.setParent(nullptr);
+    screen.setObjectName(QString());
+    screen.deleteLater();
+}
+
 void QtDesktop::open(Screen screen)
 {
     QPointer<QWidget>& opened = screens[screen];
     if (!opened || !opened->isVisible()) {
         if (opened)
-            opened->deleteLater();
+            retire(*opened);
         opened = makers.at(screen)(mainscreen);
     }
     showall();
@@ -111,6 +122,11 @@ void QtDesktop::leave()
     if (mainscreen)
         mainscreen->close();
     QApplication::quit();
+}
+
+void QtDesktop::copy(const std::string& text)
+{
+    QApplication::clipboard()->setText(QString::fromStdString(text));
 }
 
 void QtDesktop::beep()

@@ -34,6 +34,7 @@ public:
     void open(Screen screen) override;
     void close(Screen screen) override;
     void leave() override;
+    void copy(const std::string& text) override;
     void beep() override;
     bool hasprinter() override;
     PaperRoom paperroom(int points) override;
@@ -41,6 +42,7 @@ public:
 
 private:
     QWidget* owner() const;
+    static void retire(QWidget& screen);
 
     std::function<void()> showall = [] {};
     QPointer<QWidget> mainscreen;

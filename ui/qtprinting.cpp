@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The tonefret developers
 // SPDX-License-Identifier: MIT
+#include "ui/printqueue.h"
 #include "ui/qtdesktop.h"
 
 #include <QFile>
@@ -82,7 +83,10 @@ PaperRoom QtDesktop::paperroom(int points)
 
 std::string QtDesktop::print(const PrintJob& job)
 {
-    QPrinter printer(chosenprinter(), QPrinter::HighResolution);
+    const QPrinterInfo chosen = chosenprinter();
+    if (job.pdf.empty() && chosen.isNull())
+        return "There is no printer any more";
+    QPrinter printer(chosen, QPrinter::HighResolution);
     if (!job.pdf.empty()) {
         printer.setOutputFormat(QPrinter::PdfFormat);
         printer.setOutputFileName(QFile::decodeName(job.pdf.c_str()));
@@ -98,7 +102,9 @@ std::string QtDesktop::print(const PrintJob& job)
         whole = page == 0 || printer.newPage();
         drawpage(painter, job.pages.at(page));
     }
-    return painter.end() && whole ? std::string() : failureof(printer);
+    if (!painter.end() || !whole)
+        return failureof(printer);
+    return job.pdf.empty() ? queuerefusal() : std::string();
 }
 
 } // namespace ui

@@ -4,13 +4,45 @@
 
 #include "ui/paint.h"
 
+#include <QAccessible>
+#include <QAccessibleWidget>
 #include <QPainter>
 
 namespace ui {
+namespace {
+
+class ReadoutInterface : public QAccessibleWidget {
+public:
+    explicit ReadoutInterface(Readout* read) : QAccessibleWidget(read, QAccessible::StaticText), readout(*read) {}
+
+    QString text(QAccessible::Text which) const override
+    {
+        switch (which) {
+        case QAccessible::Name:
+            return readout.spokenname();
+        case QAccessible::Value:
+            return readout.text().trimmed();
+        default:
+            return QAccessibleWidget::text(which);
+        }
+    }
+
+private:
+    const Readout& readout;
+};
+
+QAccessibleInterface* readoutinterface(const QString& /*type*/, QObject* object)
+{
+    auto* readout = qobject_cast<Readout*>(object);
+    return readout ? new ReadoutInterface(readout) : nullptr;
+}
+
+} // namespace
 
 Readout::Readout(const Look& shownlook, Type written, Frame drawn, Qt::Alignment placed, QWidget* parent)
     : QWidget(parent), look(shownlook), type(written), frame(drawn), alignment(placed)
 {
+    QAccessible::installFactory(readoutinterface);
 }
 
 void Readout::settext(const QString& text)
@@ -19,6 +51,20 @@ void Readout::settext(const QString& text)
         return;
     shown = text;
     update();
+    if (!QAccessible::isActive())
+        return;
+    QAccessibleEvent renamed(this, QAccessible::NameChanged);
+    QAccessible::updateAccessibility(&renamed);
+}
+
+QString Readout::spokenname() const
+{
+    const QString value = shown.trimmed();
+    if (accessibleName().isEmpty())
+        return value;
+    if (frame == Frame::none)
+        return accessibleName();
+    return QStringLiteral("%1: %2").arg(accessibleName(), value.isEmpty() ? QStringLiteral("none") : value);
 }
 
 void Readout::paintEvent(QPaintEvent* /*event*/)

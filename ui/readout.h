@@ -24,6 +24,9 @@ public:
 
     QString text() const { return shown; }
     void settext(const QString& text);
+    /// How it is read aloud: a caption by its accessible name or its text, any other as "Chord: major", or by its text
+    /// alone where it has no accessible name.
+    QString spokenname() const;
     /// Has every text in the size in which `text` fits, so that neighbours are of one size.
     void fit(const QString& text) { widest = text; }
 

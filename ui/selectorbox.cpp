@@ -3,8 +3,10 @@
 #include "ui/selectorbox.h"
 
 #include "ui/paint.h"
+#include "ui/selectoraccess.h"
 
 #include <QAbstractItemView>
+#include <QAccessible>
 #include <QApplication>
 #include <QKeyEvent>
 #include <QPainter>
@@ -27,6 +29,13 @@ public:
     }
 };
 
+/// Whether a key is a letter or a digit by which an item is sought.
+bool seeks(const QKeyEvent& key)
+{
+    const bool command = key.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier);
+    return !command && !key.text().isEmpty() && key.text().front().isLetterOrNumber();
+}
+
 void paintchevron(QPainter& painter, const Look& look, const QPointF& middle, const QColor& colour)
 {
     const double reach = 3.5 * look.zoom();
@@ -43,6 +52,7 @@ SelectorBox::SelectorBox(const Look& shownlook, QWidget* parent) : QComboBox(par
     setFocusPolicy(Qt::TabFocus);
     setAttribute(Qt::WA_Hover);
     setMaxVisibleItems(20);
+    QAccessible::installFactory(selectorinterface);
     connect(this, &QComboBox::currentIndexChanged, this, &SelectorBox::tellofchange);
     connect(this, &QComboBox::activated, this, &SelectorBox::tellofactivation);
 }
@@ -70,22 +80,31 @@ void SelectorBox::display(const QStringList& items, int index, const QString& te
     if (listed != items) {
         clear();
         addItems(items);
+        for (int item = 0; item < count(); ++item)
+            setItemData(item, itemText(item).trimmed(), Qt::AccessibleTextRole);
         listed = items;
     }
     if (currentIndex() != index)
         setCurrentIndex(index);
-    if (shown != text) {
-        shown = text;
-        update();
-    }
+    if (shown == text)
+        return;
+    shown = text;
+    update();
+    if (!QAccessible::isActive())
+        return;
+    QAccessibleEvent renamed(this, QAccessible::NameChanged);
+    QAccessible::updateAccessibility(&renamed);
 }
 
 void SelectorBox::showPopup()
 {
     setFont(look.font(Type::text));
     setPalette(look.palettefor(look.theme().card));
-    if (!trimmeditems)
-        view()->setItemDelegate(trimmeditems = new TrimmedItems(this)); // not before: the list itself is made here
+    if (!trimmeditems) { // not before: the list itself is made here
+        view()->setItemDelegate(trimmeditems = new TrimmedItems(this));
+        view()->installEventFilter(this);
+    }
+    sincetyping.invalidate();
     QComboBox::showPopup();
 }
 
@@ -105,33 +124,41 @@ void SelectorBox::paintEvent(QPaintEvent* /*event*/)
 
 void SelectorBox::keyPressEvent(QKeyEvent* event)
 {
-    const bool command = event->modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier);
-    const QString typed = event->text();
-    if (command || typed.isEmpty() || !typed.front().isLetterOrNumber())
-        QComboBox::keyPressEvent(event);
-    else
-        seek(typed);
+    if (!seeks(*event))
+        return QComboBox::keyPressEvent(event);
+    if (const int item = sought(event->text(), currentIndex()); item >= 0)
+        setCurrentIndex(item);
 }
 
-/// Picks the next item that begins, blanks aside, with what was typed without a pause.
-void SelectorBox::seek(const QString& typed)
+/// The opened list searches as the closed one does, but only moves: Enter picks.
+bool SelectorBox::eventFilter(QObject* watched, QEvent* event)
+{
+    if (event->type() != QEvent::KeyPress || watched != view() || !seeks(static_cast<const QKeyEvent&>(*event)))
+        return QComboBox::eventFilter(watched, event);
+    const int item = sought(static_cast<const QKeyEvent&>(*event).text(), view()->currentIndex().row());
+    if (item >= 0)
+        view()->setCurrentIndex(model()->index(item, modelColumn(), rootModelIndex()));
+    return true;
+}
+
+/// The next item from `current` on that begins, blanks aside, with what was typed without a pause; -1: none.
+int SelectorBox::sought(const QString& typed, int current)
 {
     const bool goeson = sincetyping.isValid() && sincetyping.elapsed() < QApplication::keyboardInputInterval();
-    sought = goeson ? sought + typed : typed;
+    typedsofar = goeson ? typedsofar + typed : typed;
     sincetyping.start();
-    const int from = goeson ? qMax(0, currentIndex()) : currentIndex() + 1;
+    const int from = goeson ? qMax(0, current) : current + 1;
     for (int step = 0; step < count(); ++step) {
         const int item = (from + step) % count();
-        if (itemText(item).trimmed().startsWith(sought, Qt::CaseInsensitive)) {
-            setCurrentIndex(item);
-            return;
-        }
+        if (itemText(item).trimmed().startsWith(typedsofar, Qt::CaseInsensitive))
+            return item;
     }
+    return -1;
 }
 
 void SelectorBox::focusInEvent(QFocusEvent* event)
 {
-    ring = bykeyboard(*event);
+    ring = bykeyboard(*event, ring);
     QComboBox::focusInEvent(event);
 }
 

@@ -22,6 +22,7 @@ public:
     QString shownText() const { return shown; }
     /// Whether the keyboard brought the focus here.
     bool usedbykeys() const { return ring; }
+    void showPopup() override;
 
 Q_SIGNALS:
     /// A person picked an item: from the opened list, by wheel or keys, or through assistive technology; once for each
@@ -30,21 +31,21 @@ Q_SIGNALS:
 
 protected:
     void paintEvent(QPaintEvent* event) override;
-    void showPopup() override;
     void focusInEvent(QFocusEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     void tellofchange(int item);
     void tellofactivation(int item);
-    void seek(const QString& typed);
+    int sought(const QString& typed, int current);
 
     const Look& look;
     QAbstractItemDelegate* trimmeditems = nullptr;
     QStringList listed;
     QString shown;
     int toldof = -1; ///< the item whose change was told of, until its activation comes or cannot come any more
-    QString sought;
+    QString typedsofar;
     QElapsedTimer sincetyping;
     bool ring = false; ///< the keyboard brought the focus here
 };

@@ -10,11 +10,6 @@
 
 namespace custom {
 
-bool operator==(const Entry& a, const Entry& b)
-{
-    return a.name == b.name && a.data == b.data;
-}
-
 void PrintTo(const Entry& entry, std::ostream* out)
 {
     *out << entry.name << ";" << entry.data;

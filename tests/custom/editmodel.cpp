@@ -277,7 +277,7 @@ void EditModel::drop(int target, int source)
     customdata.at(t) = customdata.at(s);
     customdata.at(s) = data;
     customchanged = 1;
-    if (open)
+    if (target != source && open)
         textread();
 }
 

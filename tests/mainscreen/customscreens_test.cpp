@@ -212,4 +212,43 @@ TEST(Shutdown, openScreens_areNotLeftByTheirOwnWay)
     EXPECT_EQ(s.desktop.left, 1);
 }
 
+TEST(CustomScreen, gapThatCloses_showsTheEntryThatCameToThePlace)
+{
+    WithEntries s;
+    s.session.customtable[0] = {};
+    s.session.mnucustom_Click();
+    ASSERT_EQ(s.session.editform.txtnum(), " 0");
+    s.session.editform.txtname_Change("half written");
+    s.session.mnuarrange_Click();
+    EXPECT_EQ(s.session.editform.txtname, "two");
+    EXPECT_TRUE(s.session.editform.guarded());
+}
+
+TEST(CustomScreen, gapThatClosesFurtherOn_leavesWhatIsWritten)
+{
+    WithEntries s;
+    s.session.customtable[4] = {"five", "03555555"};
+    s.session.mnucustom_Click();
+    s.session.editform.cmddown_Click();
+    s.desktop.answers = {ui::Answer::yes};
+    s.session.editform.txtname_Click();
+    s.session.editform.txtname_Change("half written");
+    s.session.mnuarrange_Click();
+    EXPECT_EQ(s.session.editform.txtname, "half written");
+    EXPECT_EQ(s.session.customtable[3].name, "five");
+}
+
+TEST(ArrangeScreen, dropOnItself_leavesWhatIsWritten)
+{
+    WithEntries s;
+    s.session.mnucustom_Click();
+    s.session.editform.txtname_Change("half written");
+    s.session.mnuarrange_Click();
+    s.session.txtx_DragDrop(1, 1);
+    EXPECT_EQ(s.session.editform.txtname, "half written");
+    EXPECT_TRUE(s.session.customchanged);
+    s.session.txtx_DragDrop(1, 0);
+    EXPECT_EQ(s.session.editform.txtname, "");
+}
+
 } // namespace

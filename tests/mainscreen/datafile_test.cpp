@@ -280,7 +280,7 @@ TEST_F(DataFile, damagedFileThatCannotBeKept_isNotOverwritten)
     std::signal(SIGXFSZ, ending);
     EXPECT_EQ(s.desktop.told,
               (std::vector<Told>{{ui::Icon::critical,
-                                  "Cannot keep a copy of the damaged file " + (directory.path / datafile).string() +
+                                  "Cannot keep the file " + (directory.path / datafile).string() + " beside itself" +
                                       "\nFile too large\nIt is left as it is, and the settings are not saved"}}));
     EXPECT_EQ(directory.names(), datafile);
     EXPECT_EQ(directory.read(datafile), damaged);

@@ -204,4 +204,55 @@ TEST_F(LoadSave, saveToAPickedFile_isNotWhatTheEndCompares)
     EXPECT_EQ(directory.read("tonefret.txt"), "Tonefret:       GUITAR;00 72 4 801 3 6300 0;\r\n");
 }
 
+TEST_F(LoadSave, openEditScreen_showsTheFirstFreePlaceAndKeepsItsChoices)
+{
+    s.session.mnucustom_Click();
+    s.session.editform.chkleft_Click();
+    s.session.editform.Option2_Click(instruments::StringLayout::fourstrings);
+    s.session.editform.cmdret_Click(5);
+    directory.write("mine.txt", guitar + "A;03292692;B;03292692;");
+    load("mine.txt");
+    const custom::EditForm& form = s.session.editform;
+    EXPECT_EQ(form.txtnum(), " 2");
+    EXPECT_TRUE(form.chkleft);
+    EXPECT_EQ(form.Option2, instruments::StringLayout::fourstrings);
+    EXPECT_EQ(form.txtnote.at(custom::selectionbox), "E");
+}
+
+TEST_F(LoadSave, nameWithALineEnd_comesBackFromBehindAPage)
+{
+    s.session.customtable[0] = {"A\nB", "0349279B"};
+    s.session.page.text = "page\nTonefret: quoted\nmore";
+    save("mine.txt");
+    s.session.customtable = {};
+    s.session.page.text.clear();
+    load("mine.txt");
+    EXPECT_EQ(s.session.customtable[0].name, "A\nB");
+    EXPECT_EQ(s.session.page.text, "page\nTonefret: quoted\nmore");
+}
+
+TEST_F(LoadSave, dataFileItself_isWrittenAloneAtTheEnd)
+{
+    s.session.customtable[0] = {"A", "0349279B"};
+    s.session.page.text = "page";
+    directory.write("tonefret.txt", guitar);
+    s.desktop.answers = {Answer::yes};
+    save("tonefret.txt");
+    EXPECT_EQ(directory.read("tonefret.txt"), "page\r\n" + guitar + "A;0349279B;\r\n");
+    s.session.tonefretexit();
+    EXPECT_EQ(directory.read("tonefret.txt"), guitar + "A;0349279B;\r\n");
+}
+
+TEST(LoadSaveDamaged, dataFileItself_isKeptBeforeASaveOverIt)
+{
+    const tests::Directory directory;
+    directory.write("tonefret.txt", guitar + "broken");
+    Started s{directory};
+    s.desktop.files.push_back(directory.path / "tonefret.txt");
+    s.desktop.answers = {Answer::yes};
+    s.session.mnusave_Click();
+    EXPECT_EQ(directory.read("tonefret.damaged.txt"), guitar + "broken");
+    EXPECT_EQ(directory.read("tonefret.txt"), guitar + "\r\n");
+}
+
 } // namespace

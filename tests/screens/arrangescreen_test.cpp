@@ -134,6 +134,19 @@ TEST_F(ArrangeScreenTest, arrows_moveAmongUsedPlaces)
     }
 }
 
+TEST_F(ArrangeScreenTest, gapInFront_isPassedByKeys)
+{
+    open(3);
+    session.customtable[0] = {};
+    program.stage.act([] {});
+    box(1)->setFocus();
+    key(1, Qt::Key_End);
+    key(1, Qt::Key_Home);
+    key(1, Qt::Key_Up);
+    EXPECT_TRUE(box(0)->isHidden());
+    EXPECT_EQ(box(1)->focusPolicy(), Qt::TabFocus);
+}
+
 TEST_F(ArrangeScreenTest, everyWayOut_rebuildsTheTunings)
 {
     session.cbotype_Click(8);

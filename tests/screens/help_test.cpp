@@ -148,7 +148,7 @@ TEST_F(HelpViewer, picturebutton_showsTheNumberedMainScreen)
     auto* picture = control(QStringLiteral("helppicture"), screen);
     EXPECT_TRUE(picture->isVisible());
     EXPECT_FALSE(control<QLabel>(QStringLiteral("mainpicture"), picture)->pixmap().isNull());
-    EXPECT_EQ(textof(picture, "Label12"), "Guitar Fingering or Entry");
+    EXPECT_EQ(textof(picture, "pictureLabel12"), "Guitar Fingering or Entry");
     press(screen, "cmdpic");
     EXPECT_EQ(screen->findChildren<QWidget*>(QStringLiteral("helppicture")).size(), 1);
 }
@@ -219,7 +219,7 @@ TEST_F(HelpScreens, basichelp_hasEveryTextWordForWord)
         {"Label15",  "Guitar Data options"},
         {"Label14",  "Transpose Outputs"},
         {"Label13",  "Transpose Adjust"},
-        {"Label12",  "Guitar Fingering or Entry"},
+        {"Label12", "Guitar Fingering or Entry"},
         {"Label11",  "Data Out"},
         {"Label10",  "Piano Key Entry"},
         {"Label9",   "reset key"},

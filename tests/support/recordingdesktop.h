@@ -42,6 +42,7 @@ public:
     std::vector<ui::Screen> opened;
     std::vector<ui::Screen> closed;
     int left = 0; ///< how often the program was ended
+    std::vector<std::string> copied;
     int beeps = 0;
     bool printer = true;
     ui::PaperRoom room{80, 60};
@@ -56,6 +57,7 @@ public:
     void open(ui::Screen screen) override;
     void close(ui::Screen screen) override;
     void leave() override;
+    void copy(const std::string& text) override { copied.push_back(text); }
     void beep() override { ++beeps; }
     bool hasprinter() override { return printer; }
     ui::PaperRoom paperroom(int points) override;
