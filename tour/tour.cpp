@@ -58,6 +58,7 @@ public:
     }
 
     void keepopen(const char* name, const char* screen) const { keep(name, *find<QWidget>(screen)); }
+    void close(const char* screen) const { find<QWidget>(screen)->close(); }
 
 private:
     void keep(const char* name, QWidget& screen) const
@@ -112,6 +113,22 @@ void customwalk(app::Program& program, const Walker& walker, const std::string& 
     walker.keepopen(("arrange" + ending).c_str(), "arrange");
 }
 
+/// Chords on a guitar, photographed and laid out.
+void camerawalk(const Walker& walker, const std::string& ending)
+{
+    walker.choose("cbotype", "       GUITAR");
+    walker.choose("cbopreset", "0 normal - open");
+    walker.pick("mnuguitar");
+    for (const char* type : {"Crd_0", "Crd_1", "Crd_3", "Crd_4"}) {
+        walker.click(type);
+        walker.click("cordcam");
+    }
+    walker.keepopen(("camera" + ending).c_str(), "ccamera");
+    walker.click("cmdview");
+    walker.keepopen(("page" + ending).c_str(), "mprint");
+    walker.close("mprint");
+}
+
 void lightwalk(const QDir& folder)
 {
     ui::QtDesktop desktop;
@@ -135,6 +152,7 @@ void lightwalk(const QDir& folder)
     walker.keep("capo");
     walker.choose("cbopreset", "show all notes");
     walker.keep("ukulele");
+    camerawalk(walker, "");
     customwalk(program, walker, "");
     walker.keepscreen("help", "mnuchelp", "helpinfo");
     walker.keepscreen("basichelp", "mnubhelp", "mhelp");
@@ -155,6 +173,7 @@ void darkwalk(const QDir& folder)
     walker.click("key_2");
     walker.click("Crd_3");
     walker.keep("banjo");
+    camerawalk(walker, "-dark");
     customwalk(program, walker, "-dark");
     walker.keepscreen("darkbasichelp", "mnubhelp", "mhelp");
 }

@@ -190,6 +190,13 @@ TEST_F(LoadSave, otherText_isAPage)
     directory.write("page.txt", "Caf\xE9\r\nD\r\n");
     load("page.txt");
     EXPECT_EQ(s.session.page.text, "Caf\xC3\xA9\nD\n");
+    directory.write("page.txt", "C\rD\r\rE");
+    load("page.txt");
+    EXPECT_EQ(s.session.page.text, "C\nD\n\nE");
+    const std::string withnulls("C\0D\n\0", 5);
+    directory.write("page.txt", withnulls);
+    load("page.txt");
+    EXPECT_EQ(s.session.page.text, withnulls);
 }
 
 TEST_F(LoadSave, saveToAPickedFile_isNotWhatTheEndCompares)
