@@ -77,6 +77,7 @@ void PageScreen::addmenus()
         menu->menuAction()->setObjectName(QString::fromLatin1(name));
         return menu;
     };
+    menuBar()->setFont(look.font(ui::Type::text));
     QMenu* file = addmenu("mnufile", "file");
     additem(file, "mnuload", "Load Chord Text File", &PageScreen::mnuload_Click)->setShortcut(Qt::CTRL | Qt::Key_O);
     additem(file, "mnusave", "Save Chord Text File", &PageScreen::mnusave_Click)->setShortcut(Qt::CTRL | Qt::Key_S);
@@ -134,6 +135,7 @@ QBoxLayout* PageScreen::addchecks()
     txtlines->setToolTip(QStringLiteral("Output: shows how many lines are written"));
     txtlines->setAccessibleName(QStringLiteral("Lines Written"));
     txtlines->setReadOnly(true);
+    txtlines->setFont(look.font(ui::Type::text));
     txtlines->setFixedWidth(qRound(60 * look.zoom()));
     auto* column = new QVBoxLayout;
     column->addLayout(line(chkmult, addlabel("onechord", "Only 1 chord/line?")));
