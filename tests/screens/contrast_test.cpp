@@ -29,7 +29,7 @@ double luminance(const QColor& colour)
 
 double contrast(const QColor& ink, const QColor& ground)
 {
-    const auto [dark, light] = std::minmax(luminance(ink), luminance(ground));
+    const auto [dark, light] = std::minmax({luminance(ink), luminance(ground)});
     return (light + 0.05) / (dark + 0.05);
 }
 
