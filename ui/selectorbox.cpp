@@ -32,8 +32,8 @@ public:
 /// Whether a key is a letter or a digit by which an item is sought.
 bool seeks(const QKeyEvent& key)
 {
-    const bool command = key.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier);
-    return !command && !key.text().isEmpty() && key.text().front().isLetterOrNumber();
+    const Qt::KeyboardModifiers held = key.modifiers() & ~(Qt::ShiftModifier | Qt::KeypadModifier);
+    return held == Qt::NoModifier && !key.text().isEmpty() && key.text().front().isLetterOrNumber();
 }
 
 void paintchevron(QPainter& painter, const Look& look, const QPointF& middle, const QColor& colour)
