@@ -59,7 +59,7 @@ void Readout::settext(const QString& text)
 
 QString Readout::spokenname() const
 {
-    const QString value = shown.trimmed();
+    QString value = shown.trimmed();
     if (accessibleName().isEmpty())
         return value;
     if (frame == Frame::none)
@@ -78,7 +78,7 @@ void Readout::paintEvent(QPaintEvent* /*event*/)
     QColor ink = filled ? theme.accenttext : theme.text;
     if (frame == Frame::none && type != Type::strong)
         ink = theme.label;
-    const double margin = (alignment & Qt::AlignLeft) && frame != Frame::none ? 8 * look.zoom() : look.zoom();
+    const double margin = alignment.testFlag(Qt::AlignLeft) && frame != Frame::none ? 8 * look.zoom() : look.zoom();
     const QRectF room = QRectF(rect()).adjusted(margin, 0, -look.zoom(), 0);
     painttext(painter, room, shown, fitted(look.font(type), widest, room.width()), ink, alignment | Qt::AlignVCenter);
 }
