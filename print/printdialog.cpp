@@ -63,7 +63,7 @@ QPushButton* PrintDialog::addbutton(const char* name, const char* caption, void 
     return button;
 }
 
-void PrintDialog::display(const MarginBoxes& boxes)
+void PrintDialog::display(const MarginBoxes& boxes) const
 {
     top->display(boxes.txttop);
     left->display(boxes.txtleft);

@@ -17,7 +17,7 @@ class PrintDialog : public QDialog {
 public:
     PrintDialog(const ui::Look& shown, QWidget* owner);
 
-    void display(const MarginBoxes& boxes);
+    void display(const MarginBoxes& boxes) const;
 
     NumberBox* top;
     NumberBox* left;
