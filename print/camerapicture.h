@@ -13,7 +13,7 @@ class CameraPicture : public QWidget {
     Q_OBJECT
 
 public:
-    CameraPicture(const ui::Look& shown, QWidget* parent);
+    CameraPicture(const ui::Look& look, QWidget* parent);
 };
 
 } // namespace print

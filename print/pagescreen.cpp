@@ -94,7 +94,7 @@ void PageScreen::addmenus()
     ui::addmenukeys(*menuBar());
 }
 
-QAction* PageScreen::additem(QMenu* menu, const char* name, const char* caption, Signal told)
+QAction* PageScreen::additem(QMenu* menu, const char* name, const char* caption, Signal told) const
 {
     QAction* action = menu->addAction(QString::fromLatin1(caption));
     action->setObjectName(QString::fromLatin1(name));

@@ -51,7 +51,7 @@ private:
     using Signal = void (PageScreen::*)();
 
     void addmenus();
-    QAction* additem(QMenu* menu, const char* name, const char* caption, Signal told);
+    QAction* additem(QMenu* menu, const char* name, const char* caption, Signal told) const;
     QBoxLayout* addnumbers();
     QBoxLayout* addchecks();
     QBoxLayout* addbuttons();
