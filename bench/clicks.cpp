@@ -176,7 +176,7 @@ void Bench::pages()
 {
     find<QAction>(QStringLiteral("mnuviewprint"))->trigger();
     settle();
-    for (std::size_t kilobytes : {1, 10, 100, 1000, 10000}) {
+    for (const std::size_t kilobytes : {1, 10, 100, 1000, 10000}) {
         const std::string text = pagetext(kilobytes * 1000);
         const std::string size = std::to_string(kilobytes) + " KB";
         const int turns = kilobytes > 100 ? 3 : 15;
