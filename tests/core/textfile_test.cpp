@@ -169,10 +169,11 @@ TEST_F(TextFile, readOnlyFolder_leavesTheOldFileWhole)
     directory.write("file", "old");
     fs::permissions("file", fs::perms{0666});
     fs::permissions(directory.path, fs::perms{0555});
-    EXPECT_TRUE(tests::asordinaryuser([] {
-        return replacetext("file", "new") == std::errc::permission_denied &&
-               createtext("other", "new") == std::errc::permission_denied;
-    }));
+    {
+        const tests::OrdinaryUser user;
+        EXPECT_EQ(replacetext("file", "new"), std::errc::permission_denied);
+        EXPECT_EQ(createtext("other", "new"), std::errc::permission_denied);
+    }
     EXPECT_EQ(directory.names(), "file");
     EXPECT_EQ(directory.read("file"), "old");
 }
@@ -182,13 +183,42 @@ TEST_F(TextFile, protectedFile_isNeitherReadNorReplaced)
     directory.write("file", "old");
     fs::permissions("file", fs::perms::none);
     fs::permissions(directory.path, fs::perms{0777});
-    EXPECT_TRUE(tests::asordinaryuser([] {
-        const core::FileText read = readtext("file");
-        return read.failure == std::errc::permission_denied && !read.missing() &&
-               replacetext("file", "new") == std::errc::permission_denied;
-    }));
+    {
+        const tests::OrdinaryUser user;
+        EXPECT_EQ(readtext("file").failure, std::errc::permission_denied);
+        EXPECT_FALSE(readtext("file").missing());
+        EXPECT_EQ(replacetext("file", "new"), std::errc::permission_denied);
+    }
     EXPECT_EQ(directory.names(), "file");
     fs::permissions("file", fs::perms{0600});
+    EXPECT_EQ(directory.read("file"), "old");
+}
+
+TEST_F(TextFile, folderThatCannotBeListed_takesFiles)
+{
+    fs::permissions(directory.path, fs::perms{0333});
+    {
+        const tests::OrdinaryUser user;
+        EXPECT_FALSE(replacetext("file", "new"));
+        EXPECT_FALSE(createtext("other", "new"));
+    }
+    fs::permissions(directory.path, fs::perms::owner_all);
+    EXPECT_EQ(directory.read("file"), "new");
+    EXPECT_EQ(directory.names(), "file other");
+}
+
+TEST_F(TextFile, somebodyElsesFile_staysWhereOnlyItsOwnerMayTakeItsName)
+{
+    if (!tests::OrdinaryUser::haveothers())
+        GTEST_SKIP() << "only root can make somebody else's file";
+    directory.write("file", "old");
+    fs::permissions("file", fs::perms{0666});
+    fs::permissions(directory.path, fs::perms{01777});
+    {
+        const tests::OrdinaryUser user;
+        EXPECT_EQ(replacetext("file", "new"), std::errc::operation_not_permitted);
+    }
+    EXPECT_EQ(directory.names(), "file");
     EXPECT_EQ(directory.read("file"), "old");
 }
 

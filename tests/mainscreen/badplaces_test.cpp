@@ -62,11 +62,13 @@ TEST_P(BadPlace, startAndQuit_losesNothingAndComesToItsEnd)
     fs::permissions(directory.path, fs::perms{0777});
     row.prepare(directory);
     const bool link = fs::is_symlink(datafile);
-    EXPECT_TRUE(tests::asordinaryuser([&] {
+    {
+        const tests::OrdinaryUser user;
         Started s(directory);
         s.session.tonefretexit();
-        return s.desktop.left == 1 && s.desktop.told.size() == (row.told ? 1U : 0U);
-    }));
+        EXPECT_EQ(s.desktop.left, 1);
+        EXPECT_EQ(s.desktop.told.size(), row.told ? 1U : 0U);
+    }
     fs::permissions(directory.path, fs::perms::owner_all);
     EXPECT_EQ(directory.names(), row.names);
     EXPECT_EQ(fs::is_symlink(datafile), link);
@@ -94,6 +96,24 @@ INSTANTIATE_TEST_SUITE_P(Places, BadPlace, testing::Values(
     PlaceRow{"link in a circle",     [](const Directory&)   { linkto(datafile); },                      true,  "kept tonefret.txt",   ""}),
     [](const auto& row) { return tests::rowname(row.param.row); });
 // clang-format on
+
+TEST(SomebodyElsesFile, thatCannotBeReadOrRenamed_staysAndAMessageSaysSo)
+{
+    if (!tests::OrdinaryUser::haveothers())
+        GTEST_SKIP() << "only root can make somebody else's file";
+    const Directory directory;
+    directory.write(datafile, before);
+    protect(datafile, 0200);
+    protect(directory.path, 01777);
+    {
+        const tests::OrdinaryUser user;
+        Started s(directory);
+        s.session.tonefretexit();
+        EXPECT_EQ(s.desktop.told.size(), 1U);
+    }
+    EXPECT_EQ(directory.names(), datafile);
+    EXPECT_EQ(directory.read(datafile), before);
+}
 
 TEST(FullDisk, endOfAChangedSession_leavesTheOldFile)
 {

@@ -2,25 +2,36 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <sys/wait.h>
+#include <cstdlib>
+#include <stdexcept>
+
 #include <unistd.h>
 
 namespace tests {
 
-/// Runs `act` in a process of its own that has no more rights than any user; returns whether it gave true.
-template <typename Act>
-bool asordinaryuser(const Act& act)
-{
-    const pid_t child = ::fork();
-    if (child == 0) {
-        constexpr uid_t nobody = 65534;
-        if (::geteuid() == 0 && (::setgid(nobody) != 0 || ::setuid(nobody) != 0))
-            ::_exit(2);
-        ::_exit(act() ? 0 : 1);
+/// As long as it lives this process has no more rights than any user, also where root runs the tests.
+class OrdinaryUser {
+public:
+    OrdinaryUser()
+    {
+        if (root && (::setresgid(nobody, nobody, 0) != 0 || ::setresuid(nobody, nobody, 0) != 0))
+            throw std::runtime_error("root's rights cannot be laid down");
     }
-    int status = 0;
-    ::waitpid(child, &status, 0);
-    return WIFEXITED(status) && WEXITSTATUS(status) == 0;
-}
+    ~OrdinaryUser()
+    {
+        if (root && (::setresuid(0, 0, 0) != 0 || ::setresgid(0, 0, 0) != 0))
+            std::abort();
+    }
+    OrdinaryUser(const OrdinaryUser&) = delete;
+    OrdinaryUser& operator=(const OrdinaryUser&) = delete;
+
+    /// Whether files of somebody else, root, can be made before.
+    static bool haveothers() { return ::geteuid() == 0; }
+
+private:
+    static constexpr uid_t nobody = 65534;
+
+    bool root = ::geteuid() == 0;
+};
 
 } // namespace tests
