@@ -47,6 +47,15 @@ protected:
         box->setText(QString::fromUtf8(text));
         QTest::keyClick(box, Qt::Key_Return);
     }
+    /// Where the word stands, found by the button until it finds nothing more.
+    std::vector<int> everyplaceof(const char* word)
+    {
+        std::vector<int> places;
+        box->setText(QString::fromUtf8(word));
+        for (press(screen, "findbut"); places.empty() || begin() > places.back(); press(screen, "findbut"))
+            places.push_back(begin());
+        return places;
+    }
     int begin() const { return area->textCursor().selectionStart(); }
     std::string selected() const { return str(area->textCursor().selectedText()); }
 
@@ -117,6 +126,49 @@ TEST_F(HelpViewer, enter_findsOnAndBeginsAgainAfterAMiss)
     EXPECT_EQ(begin(), third); // the view stays
     find("octave");
     EXPECT_EQ(begin(), first);
+}
+
+struct EnterRow {
+    const char* name;
+    Qt::Key key;
+    Qt::KeyboardModifiers modifiers;
+    const char* text;
+    bool finds;
+};
+
+TEST_F(HelpViewer, keyOfALineEnd_findsOnce)
+{
+    const EnterRow rows[] = {
+        {"Return", Qt::Key_Return, Qt::NoModifier, "\r", true},
+        {"Enter of the keypad", Qt::Key_Enter, Qt::KeypadModifier, "\r", true},
+        {"Return that brings no character", Qt::Key_Return, Qt::NoModifier, "", true},
+        {"Ctrl+Return", Qt::Key_Return, Qt::ControlModifier, "\n", true},
+        {"Ctrl+M", Qt::Key_M, Qt::ControlModifier, "\r", true},
+        {"Ctrl+J", Qt::Key_J, Qt::ControlModifier, "\n", true},
+        {"Ctrl+M as Ctrl and a letter", Qt::Key_M, Qt::ControlModifier, "m", true},
+        {"Ctrl+J without a character", Qt::Key_J, Qt::ControlModifier, "", true},
+        {"character 10 of another key", Qt::Key_unknown, Qt::NoModifier, "\n", true},
+        {"Tab's neighbour Ctrl+K", Qt::Key_K, Qt::ControlModifier, "\v", false},
+        {"Alt+M", Qt::Key_M, Qt::AltModifier, "", false},
+    };
+    const std::vector<int> places = everyplaceof("octave");
+    ASSERT_GT(places.size(), std::size(rows));
+    press(screen, "findbut"); // at the first place again
+    std::size_t place = 0;
+    for (const EnterRow& row : rows) {
+        QKeyEvent typed(QEvent::KeyPress, row.key, row.modifiers, QLatin1String(row.text));
+        QApplication::sendEvent(box, &typed);
+        place += row.finds ? 1 : 0;
+        EXPECT_EQ(begin(), places.at(place)) << row.name;
+        EXPECT_EQ(str(box->text()), "octave") << row.name;
+    }
+}
+
+TEST_F(HelpViewer, letterMAndJ_areTyped)
+{
+    QTest::keyClicks(box, QStringLiteral("mjMJ"));
+    EXPECT_EQ(str(box->text()), "mjMJ");
+    EXPECT_FALSE(area->textCursor().hasSelection());
 }
 
 TEST_F(HelpViewer, enterInAnEmptyBox_leavesTheViewAndTheScreen)
