@@ -31,6 +31,14 @@ protected:
     {
         QTest::mouseClick(control(QLatin1String(name), screen), Qt::LeftButton);
     }
+    /// What every widget of the main screen gives, behind its name.
+    QStringList everywidgets(QString (QWidget::*property)() const) const
+    {
+        QStringList all;
+        for (const auto* each : program.mainscreen.findChildren<QWidget*>())
+            all.append(each->objectName() + QLatin1Char(':') + (each->*property)());
+        return all;
+    }
     static std::string tipof(const QWidget* control) { return str(control->toolTip()); }
 };
 
@@ -194,6 +202,20 @@ TEST_F(HelpViewer, openedAgain_comesToTheFrontAndKeepsItsPlace)
     EXPECT_EQ(begin(), there);
 }
 
+TEST_F(HelpViewer, closedAndOpenedAgain_beginsAtItsTop)
+{
+    choosetopic(40);
+    find("octave");
+    press(screen, "returnbut");
+    QWidget* again = openhelp();
+    const auto* text = control<QTextEdit>(QStringLiteral("helptext"), again);
+    EXPECT_EQ(text->textCursor().position(), 0);
+    EXPECT_EQ(text->verticalScrollBar()->value(), 0);
+    EXPECT_EQ(str(control(QStringLiteral("cbo1"), again)->property("currentText").toString()),
+              "Use Down Arrow at Right - > ");
+    EXPECT_EQ(str(control(QStringLiteral("findtext"), again)->property("text").toString()), "");
+}
+
 TEST_F(HelpViewer, picturebutton_showsTheNumberedMainScreen)
 {
     press(screen, "cmdpic");
@@ -347,21 +369,24 @@ TEST_F(HelpScreens, systeminformation_isToldToBeUnavailable)
 
 TEST_F(HelpScreens, tipsToggledTwice_areBackOnEveryControl)
 {
-    const auto tips = [this] {
-        QStringList all;
-        for (const auto* each : program.mainscreen.findChildren<QWidget*>())
-            all.append(each->objectName() + QLatin1Char(':') + each->toolTip());
-        return all;
-    };
-    const QStringList before = tips();
-    const auto* key = control(QStringLiteral("key_0"));
+    const QStringList before = everywidgets(&QWidget::toolTip);
     pick(QStringLiteral("mnutips"));
-    EXPECT_EQ(tipof(key), "");
-    EXPECT_EQ(str(key->accessibleDescription()), "piano note entry / readout");
     EXPECT_FALSE(control<QAction>(QStringLiteral("mnutips"))->isChecked());
     pick(QStringLiteral("mnutips"));
-    EXPECT_EQ(tips(), before);
+    EXPECT_EQ(everywidgets(&QWidget::toolTip), before);
     EXPECT_TRUE(control<QAction>(QStringLiteral("mnutips"))->isChecked());
+}
+
+TEST_F(HelpScreens, tipsSwitchedOff_leaveNoTipAndEveryName)
+{
+    const QStringList names = everywidgets(&QWidget::accessibleName);
+    const QStringList descriptions = everywidgets(&QWidget::accessibleDescription);
+    EXPECT_EQ(str(control(QStringLiteral("key_0"))->accessibleDescription()), "piano note entry / readout");
+    pick(QStringLiteral("mnutips"));
+    for (const auto* each : program.mainscreen.findChildren<QWidget*>())
+        EXPECT_EQ(tipof(each), "") << str(each->objectName());
+    EXPECT_EQ(everywidgets(&QWidget::accessibleName), names);
+    EXPECT_EQ(everywidgets(&QWidget::accessibleDescription), descriptions);
 }
 
 } // namespace
