@@ -1,11 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The tonefret developers
 // SPDX-License-Identifier: MIT
-#include "help/search.h"
 #include "help/unicode.h"
 
 #include <gtest/gtest.h>
-
-#include <array>
 
 namespace {
 
@@ -69,34 +66,6 @@ TEST(AppendUtf16, noCharacter_isReplaced)
     for (const char32_t c : {0xD800U, 0xDFFFU, 0x110000U})
         help::appendutf16(units, c);
     EXPECT_EQ(units, u"\uFFFD\uFFFD\uFFFD");
-}
-
-/// Capitals from `first` to `last`, each `step` from the next, and how far off their small letters are.
-struct Capitals {
-    int first;
-    int last;
-    int step;
-    int off;
-};
-
-TEST(SmallLetter, everyUnit_hasTheOneOfItsAlphabet)
-{
-    // clang-format off
-    const Capitals blocks[] = {
-        {'A',    'Z',    1, 32}, {0xC0,   0xD6,   1, 32}, {0xD8,   0xDE,   1, 32}, {0x100,  0x12E,  2, 1},
-        {0x132,  0x136,  2, 1},  {0x139,  0x147,  2, 1},  {0x14A,  0x176,  2, 1},  {0x178,  0x178,  1, 0xFF - 0x178},
-        {0x179,  0x17D,  2, 1},  {0x391,  0x3A1,  1, 32}, {0x3A3,  0x3A9,  1, 32}, {0x400,  0x40F,  1, 80},
-        {0x410,  0x42F,  1, 32}, {0x460,  0x480,  2, 1},  {0x48A,  0x4BE,  2, 1},  {0x4D0,  0x52E,  2, 1},
-        {0x1E00, 0x1E94, 2, 1}};
-    // clang-format on
-    std::array<int, 0x10000> small;
-    for (int unit = 0; unit < 0x10000; ++unit)
-        small.at(static_cast<std::size_t>(unit)) = unit;
-    for (const Capitals& block : blocks)
-        for (int unit = block.first; unit <= block.last; unit += block.step)
-            small.at(static_cast<std::size_t>(unit)) = unit + block.off;
-    for (std::size_t unit = 0; unit < small.size(); ++unit)
-        ASSERT_EQ(help::smallletter(static_cast<char16_t>(unit)), small.at(unit)) << std::hex << unit;
 }
 
 } // namespace

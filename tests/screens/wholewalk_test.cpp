@@ -7,6 +7,7 @@
 #include <QLineEdit>
 #include <QMainWindow>
 #include <QMenuBar>
+#include <QPixmapCache>
 #include <QPlainTextEdit>
 
 #include <cstdio>
@@ -88,6 +89,7 @@ protected:
                 top->close();
         session.mnuphotoclear_Click();
         settle();
+        QPixmapCache::clear();
     }
 
     /// What happens by itself after an event.
@@ -270,6 +272,8 @@ TEST_F(WholeWalk, everystep_leavesAllScreensSoundAndNothingBehind)
     }
     if (HasFailure())
         ADD_FAILURE() << "the last steps:" << joined(lately);
+    constexpr std::size_t caches = std::size_t{4} << 20U; // what the toolkit keeps of glyphs and the like, at most
+    EXPECT_LT(memory.empty() ? 0 : memory.back(), memory.empty() ? 1 : memory.front() + caches);
     const std::string course = courseof(memory);
     RecordProperty("memory", course);
     std::printf("memory in KiB: %s\n", course.c_str());
