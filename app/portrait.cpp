@@ -3,7 +3,6 @@
 #include "app/portrait.h"
 
 #include "help/basictexts.h"
-#include "help/pictures.h"
 #include "mainscreen/mainscreen.h"
 
 #include <QMenuBar>
@@ -127,7 +126,7 @@ QPixmap cut(const QPixmap& picture, const QRect& area)
 
 } // namespace
 
-Portrait portrait()
+help::Portrait portrait()
 {
     Sitter sitter;
     const QPixmap whole = sitter.numbered();

@@ -39,6 +39,7 @@ MainScreen::MainScreen(Session& shown, ui::Stage& entered, ui::Look& shared)
     setObjectName(QStringLiteral("tonefret"));
     setWindowTitle(QStringLiteral("tonefret"));
     setCentralWidget(canvas);
+    connect(canvas, &ui::Canvas::zoomed, this, &MainScreen::zoomed);
     dressmenubar();
     panels.push_back(std::make_unique<PianoPanel>(*canvas, session, stage));
     auto output = std::make_unique<OutputPanel>(*canvas, session, stage);
