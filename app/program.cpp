@@ -20,9 +20,9 @@ Program::Program(ui::QtDesktop& opened)
     stage.onchange([this] { display(); });
     desktop.beforeasking([this] { stage.showall(); });
     desktop.setmain(&mainscreen);
-    QObject::connect(&mainscreen, &mainscreen::MainScreen::zoomed, &mainscreen, [this] {
+    QObject::connect(&mainscreen, &mainscreen::MainScreen::lookchanged, &mainscreen, [this] {
         for (ui::Companion* open : mainscreen.findChildren<ui::Companion*>())
-            open->followzoom();
+            open->followlook();
     });
     desktop.add(ui::Screen::frmretune, [this](QWidget* owner) { return makeretune(owner); });
     desktop.add(ui::Screen::custom, [this](QWidget* owner) { return makecustom(owner); });

@@ -72,13 +72,14 @@ void HelpScreen::filldocument()
 {
     if (filledtheme == &look.theme() && filledzoom == look.zoom())
         return;
-    const QTextCursor selected = helptext->textCursor();
+    const Match selected{static_cast<std::size_t>(helptext->textCursor().selectionStart()),
+                         static_cast<std::size_t>(helptext->textCursor().selectionEnd())};
     if (filledtheme && !viewed)
         viewed = helptext->cursorForPosition(QPoint()).position();
     helptext->clear();
     helptext->document()->setDocumentMargin(documentedge * look.zoom());
     help::filldocument(*helptext->document(), document, look);
-    select({static_cast<std::size_t>(selected.selectionStart()), static_cast<std::size_t>(selected.selectionEnd())});
+    select(selected);
     filledtheme = &look.theme();
     filledzoom = look.zoom();
 }
@@ -103,10 +104,10 @@ void HelpScreen::dressparts()
     helptext->setAccessibleName(QStringLiteral("Help"));
     helptext->setReadOnly(true);
     helptext->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    fitarea(helptext);
     fit([this] {
         cbo1->setMinimumSize(smallestindex * look.zoom());
         findtext->setMinimumWidth(scaled(smallestfind.width()));
-        helptext->setPalette(look.palettefor(look.theme().card));
     });
 }
 

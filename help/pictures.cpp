@@ -30,6 +30,13 @@ void paintbadge(QPainter& painter, const QPointF& middle, int number, const ui::
 
 namespace {
 
+void paintframe(QPixmap& picture, const ui::Look& look)
+{
+    QPainter painter(&picture);
+    painter.setPen(QPen(look.theme().hairline, 2)); // half of it falls outside
+    painter.drawRect(QRectF(QPointF(), picture.deviceIndependentSize()));
+}
+
 /// The disc by itself; `ratio` is that of the display's pixels.
 QPixmap numberbadge(int number, const ui::Look& look, double ratio)
 {
@@ -60,6 +67,7 @@ QLabel* image(ui::Companion& screen, Portraits& portraits, QPixmap Portrait::*pa
         const QPixmap& picture = portraits.in(screen.shownlook()).*part;
         QPixmap scaled = picture.scaledToWidth(qRound(screen.scaled(widthatone) * ratio), Qt::SmoothTransformation);
         scaled.setDevicePixelRatio(ratio);
+        paintframe(scaled, screen.shownlook());
         label->setPixmap(scaled);
     });
     return label;

@@ -39,7 +39,7 @@ MainScreen::MainScreen(Session& shown, ui::Stage& entered, ui::Look& shared)
     setObjectName(QStringLiteral("tonefret"));
     setWindowTitle(QStringLiteral("tonefret"));
     setCentralWidget(canvas);
-    connect(canvas, &ui::Canvas::zoomed, this, &MainScreen::zoomed);
+    connect(canvas, &ui::Canvas::zoomed, this, &MainScreen::lookchanged);
     dressmenubar();
     panels.push_back(std::make_unique<PianoPanel>(*canvas, session, stage));
     auto output = std::make_unique<OutputPanel>(*canvas, session, stage);
@@ -148,6 +148,7 @@ void MainScreen::changeEvent(QEvent* event)
     look.followpalette(palette());
     dressmenubar();
     canvas->repaintbackdrop();
+    Q_EMIT lookchanged();
 }
 
 void MainScreen::closeEvent(QCloseEvent* event)

@@ -29,7 +29,7 @@ public:
     void centre();
 
 Q_SIGNALS:
-    void zoomed(); ///< the look has another zoom
+    void lookchanged(); ///< another zoom, or other colours of the desktop
 
 protected:
     void closeEvent(QCloseEvent* event) override;

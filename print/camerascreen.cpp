@@ -48,7 +48,7 @@ void CameraScreen::display(const CameraLabels& labels)
         label->setText(ui::totext(text));
     }
     if (changed)
-        settle();
+        followlook();
 }
 
 } // namespace print

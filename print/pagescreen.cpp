@@ -59,7 +59,7 @@ void PageScreen::dressparts()
     rtbprint->setObjectName(QStringLiteral("rtbprint"));
     rtbprint->setToolTip(QStringLiteral("print output screen - you can add titles or edit here also"));
     rtbprint->setAccessibleName(QStringLiteral("print page"));
-    fit([this] { rtbprint->setPalette(look.palettefor(look.theme().card)); });
+    fitarea(rtbprint);
     dresscheck(chkmult, "chkmult", "if checked: allows only 1 chord printed per line", "Only 1 chord/line?");
     dresscheck(chkalt, "chkalt", "if checked: will show alternate fingerings as well as primary",
                "Show Alternate Fingerings");
@@ -104,49 +104,33 @@ QAction* PageScreen::additem(QMenu* menu, const char* name, const char* text, Si
         menu, name, text, [this, told] { (this->*told)(); }, keys);
 }
 
+/// Numbers at the left, what can be ticked at the right, in the same rows.
 QLayout* PageScreen::addsettings()
 {
-    auto* columns = new QHBoxLayout;
-    columns->addLayout(addnumbers());
-    columns->addLayout(addchecks(), 1);
-    return columns;
-}
-
-QLayout* PageScreen::addnumbers()
-{
-    auto* column = new QVBoxLayout;
-    fitroom(column, 0, gap);
-    column->addWidget(characters);
-    column->addWidget(spacing);
-    auto* sizes = new QHBoxLayout;
-    fitroom(sizes, 0, gap);
-    sizes->addWidget(font);
-    sizes->addWidget(addbutton("cmdfonthelp", "?", "font size help", &PageScreen::cmdfonthelp_Click));
-    column->addLayout(sizes);
-    return column;
-}
-
-/// Stands on the grid that the numbers beside it give: a row each, boxes below one another.
-QLayout* PageScreen::addchecks()
-{
     auto* grid = new QGridLayout;
-    fitroom(grid, 0, gap);
-    grid->addWidget(chkmult, 0, 0);
-    grid->addWidget(caption("onechord", "Only 1 chord/line?", ui::Type::text), 0, 1);
-    grid->addWidget(chkalt, 1, 0);
-    grid->addWidget(caption("alternates", "Show Alternate Fingerings", ui::Type::text), 1, 1);
-    grid->addWidget(caption("primary", "Primary = *", ui::Type::label), 1, 2);
-    grid->addWidget(caption("alternate", "Alternate = +", ui::Type::label), 1, 3);
-    auto* lines = new QHBoxLayout;
-    fitroom(lines, 0, gap);
-    lines->addWidget(caption("lineswritten", "Lines Written", ui::Type::text));
-    lines->addWidget(txtlines);
-    lines->addStretch();
-    grid->addLayout(lines, 2, 0, 1, 4);
-    grid->setColumnStretch(4, 1);
-    for (int row = 0; row < 3; ++row)
-        grid->setRowStretch(row, 1);
+    grid->addWidget(characters, 0, 0);
+    grid->addWidget(spacing, 1, 0);
+    grid->addWidget(font, 2, 0);
+    grid->addWidget(addbutton("cmdfonthelp", "?", "font size help", &PageScreen::cmdfonthelp_Click), 2, 1);
+    fit([this, grid] { grid->setColumnMinimumWidth(2, scaled(edge)); });
+    grid->addLayout(addline({chkmult, caption("onechord", "Only 1 chord/line?", ui::Type::text)}), 0, 3);
+    grid->addLayout(addline({chkalt, caption("alternates", "Show Alternate Fingerings", ui::Type::text),
+                             caption("primary", "Primary = *", ui::Type::label),
+                             caption("alternate", "Alternate = +", ui::Type::label)}),
+                    1, 3);
+    grid->addLayout(addline({caption("lineswritten", "Lines Written", ui::Type::text), txtlines}), 2, 3);
+    grid->setColumnStretch(3, 1);
     return grid;
+}
+
+QLayout* PageScreen::addline(std::initializer_list<QWidget*> parts)
+{
+    auto* line = new QHBoxLayout;
+    fitroom(line, 0, gap);
+    for (QWidget* part : parts)
+        line->addWidget(part);
+    line->addStretch();
+    return line;
 }
 
 QLayout* PageScreen::addbuttons()

@@ -11,6 +11,8 @@
 #include <QCheckBox>
 #include <QLineEdit>
 
+#include <initializer_list>
+
 namespace print {
 
 /// The print page: the text, its settings and what can be done with it. Not modal.
@@ -51,8 +53,7 @@ private:
     void addmenus();
     QAction* additem(QMenu* menu, const char* name, const char* text, Signal told, QKeyCombination keys = {});
     QLayout* addsettings();
-    QLayout* addnumbers();
-    QLayout* addchecks();
+    QLayout* addline(std::initializer_list<QWidget*> parts);
     QLayout* addbuttons();
     QWidget* addbutton(const char* name, const char* text, const char* tip, Signal told);
     void dresscheck(QCheckBox* check, const char* name, const char* tip, const char* spoken);

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "ui/companion.h"
 
+#include "ui/partstyle.h"
+
 #include <QAccessibleWidget>
 #include <QCloseEvent>
 #include <QGuiApplication>
@@ -37,7 +39,7 @@ QAccessibleInterface* dialoginterface(const QString& /*type*/, QObject* object)
 } // namespace
 
 Companion::Companion(const Look& mainlook, QWidget* owner, Qt::WindowType kind)
-    : QMainWindow(owner, kind), look(mainlook), followed(mainlook)
+    : QMainWindow(owner, kind), look(mainlook), followed(mainlook), partstyle(new PartStyle(look, this))
 {
     QAccessible::installFactory(dialoginterface);
     fit([this] {
@@ -84,10 +86,20 @@ void Companion::takesize(double zoombefore, QSize room)
     const std::optional<QSize> opening = openingsize();
     if (!opening)
         setFixedSize(smallest());
-    else if (dressedfor == 0)
-        resize(opening->boundedTo(room));
     else if (!isMaximized() && !isFullScreen())
-        resize((size() * (look.zoom() / zoombefore)).boundedTo(room));
+        takefreesize(*opening, zoombefore, room);
+}
+
+/// What a person has given the screen is kept in proportion to the zoom, also where the display had no room for it
+/// meanwhile.
+void Companion::takefreesize(QSize opening, double zoombefore, QSize room)
+{
+    if (!opened)
+        freesize = QSizeF(opening) / look.zoom();
+    else if (size() != given)
+        freesize = QSizeF(size()) / zoombefore;
+    given = (freesize * look.zoom()).toSize().expandedTo(smallest()).boundedTo(room);
+    resize(given);
 }
 
 void Companion::dress()
@@ -97,23 +109,17 @@ void Companion::dress()
     applyzoom(followed.zoom());
     shrinkinto(room);
     takesize(before, room);
-    if (dressedfor == 0)
+    if (!opened)
         centre();
     keepondisplay();
-    dressedfor = followed.zoom();
+    opened = true;
     dressed();
 }
 
-void Companion::settle()
+void Companion::followlook()
 {
     if (isVisible())
         dress();
-}
-
-void Companion::followzoom()
-{
-    if (dressedfor != followed.zoom())
-        settle();
 }
 
 void Companion::centre()
@@ -140,15 +146,8 @@ void Companion::showEvent(QShowEvent* event)
     QMainWindow::showEvent(event);
     if (event->spontaneous())
         return; // back from the desktop's edge, where it stood
-    dressedfor = 0;
+    opened = false;
     dress();
-}
-
-void Companion::changeEvent(QEvent* event)
-{
-    QMainWindow::changeEvent(event);
-    if (event->type() == QEvent::ApplicationPaletteChange)
-        settle();
 }
 
 void Companion::keyPressEvent(QKeyEvent* event)

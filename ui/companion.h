@@ -10,6 +10,7 @@
 #include <QKeyCombination>
 #include <QLabel>
 #include <QLayout>
+#include <QLineEdit>
 #include <QMainWindow>
 #include <QMenu>
 
@@ -17,7 +18,11 @@
 #include <optional>
 #include <vector>
 
+class QAbstractScrollArea;
+
 namespace ui {
+
+class PartStyle;
 
 /// A group of controls on a ground of its own.
 class Card : public QWidget {
@@ -44,8 +49,8 @@ public:
     /// Qt::Dialog for one that asks or tells something and is left again, Qt::Window for one that is worked on.
     Companion(const Look& mainlook, QWidget* owner, Qt::WindowType kind);
 
-    /// Takes over a zoom of the main screen that has changed.
-    void followzoom();
+    /// Takes over the zoom of the main screen and the desktop's theme, and the size that the contents need now.
+    void followlook();
 
     // What stands on the screen is made and fitted by these; lengths are pixels at zoom 1.
 
@@ -55,7 +60,8 @@ public:
     void fitindicator(QAbstractButton* control);                  ///< a check box or an option button, its text too
     void fitsize(QWidget* control, QSize atone);                  ///< -1 leaves a side free
     void fitroom(QLayout* layout, int marginatone, int gapatone); ///< room around a layout and between its parts
-    void fitbox(QWidget* box);                                    ///< what is typed into
+    void fitbox(QLineEdit* box);
+    void fitarea(QAbstractScrollArea* area); ///< of text
     /// A text that breaks its lines within a width; a width of 0: on one line.
     QLabel* caption(const char* name, const char* text, Type type, int widthatone = 0);
     Button* button(const char* name, const char* text, const char* tip, Handler handler);
@@ -78,8 +84,6 @@ protected:
     QAction* additem(QMenu* menu, const char* name, const char* text, Handler handler, QKeyCombination keys = {});
     /// The button that Enter presses.
     void setenter(QAbstractButton* button) { pressedbyenter = button; }
-    /// Takes the size that the contents need now; for texts that have changed.
-    void settle();
 
     /// The size to open with of a screen that a person can make larger and smaller, at the look's zoom. None: the
     /// screen is as large as its contents need.
@@ -88,7 +92,6 @@ protected:
     virtual void dressed() {}
 
     void showEvent(QShowEvent* event) override;
-    void changeEvent(QEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
 
@@ -99,14 +102,18 @@ private:
     void applyzoom(double zoom);
     void shrinkinto(QSize room);
     void takesize(double zoombefore, QSize room);
+    void takefreesize(QSize opening, double zoombefore, QSize room);
     QSize smallest() const;
     QSize withmenus(QSize content) const;
     void centre();
     void keepondisplay();
 
     const Look& followed;
-    double dressedfor = 0; ///< zoom of the main screen at that time; 0: not yet
+    bool opened = false; ///< it has its first size and place
+    QSizeF freesize;     ///< of a screen that a person can size, in pixels at zoom 1
+    QSize given;         ///< that it was resized to last by itself
     std::vector<Handler> changes;
+    PartStyle* partstyle;
     QAbstractButton* pressedbyenter = nullptr;
 };
 

@@ -4,45 +4,20 @@
 
 #include "ui/companion.h"
 #include "ui/paint.h"
+#include "ui/partstyle.h"
 
-#include <QApplication>
+#include <QAbstractScrollArea>
 #include <QMenuBar>
 #include <QPainter>
-#include <QProxyStyle>
 
 #include <utility>
 
 namespace ui {
 namespace {
 
-constexpr double indicator = 14; ///< side of a check mark's box, in pixels at zoom 1
+// Pixels at zoom 1.
 constexpr int cardedge = 10;
 constexpr int boxheight = 28; ///< of a button too
-
-/// The desktop's style, with check boxes and option buttons that grow with the text beside them.
-class IndicatorStyle : public QProxyStyle {
-public:
-    IndicatorStyle(const Look& shownlook, QObject* owner) : QProxyStyle(QApplication::style()->name()), look(shownlook)
-    {
-        setParent(owner);
-    }
-
-    int pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const override
-    {
-        switch (metric) {
-        case PM_IndicatorWidth:
-        case PM_IndicatorHeight:
-        case PM_ExclusiveIndicatorWidth:
-        case PM_ExclusiveIndicatorHeight:
-            return qRound(indicator * look.zoom());
-        default:
-            return QProxyStyle::pixelMetric(metric, option, widget);
-        }
-    }
-
-private:
-    const Look& look;
-};
 
 } // namespace
 
@@ -60,7 +35,7 @@ void Companion::fitfont(QWidget* control, Type type)
 void Companion::fitindicator(QAbstractButton* control)
 {
     fitfont(control, Type::text);
-    control->setStyle(new IndicatorStyle(look, control));
+    control->setStyle(partstyle);
 }
 
 void Companion::fitsize(QWidget* control, QSize atone)
@@ -82,11 +57,18 @@ void Companion::fitroom(QLayout* layout, int marginatone, int gapatone)
     });
 }
 
-void Companion::fitbox(QWidget* box)
+void Companion::fitbox(QLineEdit* box)
 {
+    box->setStyle(partstyle);
     fitfont(box, Type::text);
     fitsize(box, {-1, boxheight});
     fit([this, box] { box->setPalette(look.palettefor(look.theme().card)); });
+}
+
+void Companion::fitarea(QAbstractScrollArea* area)
+{
+    area->setStyle(partstyle);
+    fit([this, area] { area->setPalette(look.palettefor(look.theme().card)); });
 }
 
 QLabel* Companion::caption(const char* name, const char* text, Type type, int widthatone)
@@ -95,6 +77,12 @@ QLabel* Companion::caption(const char* name, const char* text, Type type, int wi
     label->setObjectName(QString::fromUtf8(name));
     label->setTextFormat(Qt::PlainText);
     fitfont(label, type);
+    if (type == Type::label || type == Type::heading)
+        fit([this, label] {
+            QPalette quiet = label->palette();
+            quiet.setColor(QPalette::WindowText, look.theme().label);
+            label->setPalette(quiet);
+        });
     if (widthatone == 0)
         return label;
     label->setWordWrap(true);
