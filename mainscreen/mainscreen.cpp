@@ -9,6 +9,7 @@
 #include "mainscreen/places.h"
 #include "mainscreen/selectorpanel.h"
 #include "mainscreen/transposepanel.h"
+#include "ui/partstyle.h"
 
 #include <QCloseEvent>
 #include <QResizeEvent>
@@ -38,6 +39,7 @@ MainScreen::MainScreen(Session& shown, ui::Stage& entered, ui::Look& shared)
 {
     setObjectName(QStringLiteral("tonefret"));
     setWindowTitle(QStringLiteral("tonefret"));
+    menuBar()->setStyle(new ui::PartStyle(look, this));
     setCentralWidget(canvas);
     connect(canvas, &ui::Canvas::zoomed, this, &MainScreen::lookchanged);
     dressmenubar();

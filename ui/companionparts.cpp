@@ -125,6 +125,7 @@ void Companion::setcontent(QLayout* content, int gapatone)
 QMenu* Companion::addmenu(const char* name, const char* text)
 {
     if (menuBar()->actions().isEmpty()) {
+        menuBar()->setStyle(partstyle);
         fitfont(menuBar(), Type::text);
         fit([this] { menuBar()->setPalette(look.palettefor(look.theme().card)); });
     }

@@ -66,6 +66,15 @@ QRect PartStyle::subElementRect(SubElement element, const QStyleOption* option, 
     return QProxyStyle::subElementRect(element, option, widget);
 }
 
+QSize PartStyle::sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& contents,
+                                  const QWidget* widget) const
+{
+    if (type != CT_MenuBarItem)
+        return QProxyStyle::sizeFromContents(type, option, contents, widget);
+    const int height = option->fontMetrics.height();
+    return contents + QSize(height * 6 / 5, height / 2);
+}
+
 void PartStyle::paintmark(QPainter& painter, const QStyleOption& option, bool round) const
 {
     const Theme& theme = look.theme();
