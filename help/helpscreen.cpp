@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "help/helpscreen.h"
 
+#include "help/findbox.h"
 #include "help/helpdocument.h"
 #include "help/topics.h"
 #include "ui/text.h"
@@ -29,7 +30,7 @@ HelpScreen::HelpScreen(const ui::Look& mainlook, std::vector<Paragraph> paragrap
     : Companion(mainlook, owner, Qt::Window),
       document(std::move(paragraphs)),
       cbo1(new ui::SelectorBox(look, this)),
-      findtext(new QLineEdit(this)),
+      findtext(new FindBox(this)),
       helptext(new QTextEdit(this))
 {
     setObjectName(QStringLiteral("helpinfo"));
