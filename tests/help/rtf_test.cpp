@@ -159,6 +159,16 @@ TEST(Rtf, charsetOfAFontAndPageOfTheDocument_nameTheSameBytes)
     }
 }
 
+TEST(Rtf, everyDestinationThatIsNoText_isPassedOver)
+{
+    for (const char* name :
+         {"author",    "buptim",     "comment", "filetbl", "fldinst", "footer",  "footerf", "footerl",
+          "footerr",   "footnote",   "header",  "headerf", "headerl", "headerr", "info",    "listoverridetable",
+          "listtable", "nonshppict", "objdata", "object",  "pict",    "revtbl",  "rxe",     "stylesheet",
+          "tc",        "txe",        "xe"})
+        EXPECT_THAT(texts(inbraces("a{\\" + std::string(name) + " b{c}}d")), ElementsAre("ad")) << name;
+}
+
 TEST(Rtf, slashAtTheVeryEnd_isPassedOver)
 {
     EXPECT_THAT(texts("{\\rtf1 a\\"), ElementsAre("a"));
