@@ -146,7 +146,7 @@ void MainScreen::changeEvent(QEvent* event)
         return;
     look.followpalette(palette());
     dressmenubar();
-    canvas->repaintbackdrop();
+    canvas->update();
 }
 
 void MainScreen::closeEvent(QCloseEvent* event)

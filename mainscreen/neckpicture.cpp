@@ -154,7 +154,7 @@ void paintnumbers(QPainter& painter, const Look& look, const TwipRect& neck, Han
 {
     for (const int fret : inlayfrets) {
         const TwipRect where{columnmiddle(fret, hand) - 15 * px, neck.bottom() + 2 * px, 30 * px, 14 * px};
-        ui::painttext(painter, look.exact(where), QString::number(fret), look.font(ui::Type::heading),
+        ui::painttext(painter, look, look.exact(where), QString::number(fret), look.font(ui::Type::heading),
                       look.theme().label);
     }
 }
