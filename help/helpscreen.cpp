@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "help/helpscreen.h"
 
+#include "help/findbox.h"
 #include "help/helpdocument.h"
 #include "help/topics.h"
 #include "ui/button.h"
@@ -56,7 +57,7 @@ HelpScreen::HelpScreen(ui::Look shown, const std::vector<Paragraph>& paragraphs,
     : QDialog(owner, Qt::Window),
       look(within(std::move(shown), QGuiApplication::primaryScreen()->availableSize())),
       cbo1(new ui::SelectorBox(look, this)),
-      findtext(new QLineEdit(this)),
+      findtext(new FindBox(this)),
       helptext(new QTextEdit(this))
 {
     setObjectName(QStringLiteral("helpinfo"));

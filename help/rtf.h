@@ -64,7 +64,8 @@ struct Paragraph {
 
 /// Reads an RTF document: its paragraphs in order, at most 100,000.
 /// Bullets and list numbers are the text that the document gives for them. Pictures, headers, notes, style sheets and
-/// destinations that are not known are left out. A damaged document gives what can be read of it; a text that does not
+/// destinations that are not known are left out. What a cell of a table within a cell holds stands in the outer cell, a
+/// paragraph of its own. A damaged document gives what can be read of it; a text that does not
 /// begin as RTF gives nothing. Takes time and memory in proportion to the text, however its groups are nested.
 std::vector<Paragraph> readrtf(std::string_view text);
 

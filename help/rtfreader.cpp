@@ -142,6 +142,8 @@ void RtfReader::addcharacter(char32_t character)
     const bool unprintable = character < ' ' && character != '\t' && character != '\n';
     if (now.destination != Destination::text || now.hidden || unprintable)
         return;
+    if (now.label && building.runs.empty() && (character == ' ' || character == '\t'))
+        return; // of a number that is set flush right, or of a label without any
     if (character == '\n')
         endparagraph();
     else
@@ -366,9 +368,11 @@ const RtfReader::Word* RtfReader::findword(std::string_view name)
       { "line",         &R::character,      0x2028 },
       { "listoverridetable", &R::skip,      0 },
       { "listtable",    &R::skip,           0 },
+      { "listtext",     &R::label,          0 },
       { "lquote",       &R::character,      0x2018 },
       { "mac",          &R::mac,            0 },
-      { "nestcell",     &R::cell,           0 },
+      { "nestcell",     &R::innercell,      0 },
+      { "nonesttables", &R::skip,           0 },
       { "nonshppict",   &R::skip,           0 },
       { "objdata",      &R::skip,           0 },
       { "object",       &R::skip,           0 },
@@ -379,6 +383,7 @@ const RtfReader::Word* RtfReader::findword(std::string_view name)
       { "pca",          &R::pca,            0 },
       { "pict",         &R::skip,           0 },
       { "plain",        &R::plain,          0 },
+      { "pntext",       &R::label,          0 },
       { "qc",           &R::centre,         0 },
       { "qj",           &R::justified,      0 },
       { "ql",           &R::left,           0 },

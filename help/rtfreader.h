@@ -33,7 +33,8 @@ private:
         ParagraphFormat paragraph;
         int font = 0;
         bool hidden = false;
-        int fallbacks = 1; ///< how many characters stand for one that is written as a number
+        bool label = false; ///< a list's bullet or number
+        int fallbacks = 1;  ///< how many characters stand for one that is written as a number
     };
 
     /// A control word and what it does. `absent` stands for a number that is not written.
@@ -62,6 +63,7 @@ private:
     void underline(int on) { now.run.underline = on != 0; }
     void nounderline(int) { now.run.underline = false; }
     void hide(int on) { now.hidden = on != 0; }
+    void label(int) { now.label = true; }
     void plain(int);
     void size(int halfpoints);
     void colour(int number);
@@ -83,6 +85,11 @@ private:
     void tabstop(int twips);
     void intable(int) { now.paragraph.intable = true; }
     void cell(int);
+    void innercell(int)
+    {
+        intable(0);
+        endparagraph();
+    }
     void row(int);
 
     void character(int code) { addcharacter(static_cast<char32_t>(code)); }

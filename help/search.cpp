@@ -5,6 +5,7 @@
 #include "help/unicode.h"
 
 #include <algorithm>
+#include <array>
 #include <utility>
 
 namespace help {
@@ -12,27 +13,46 @@ namespace {
 
 constexpr std::u16string_view endmark = u"#end#"; ///< stands for the search text after a search that found nothing
 
-bool within(char16_t unit, char16_t first, char16_t last)
-{
-    return unit >= first && unit <= last;
-}
+/// Capitals whose small letters lie equally far behind them.
+struct Capitals {
+    char16_t first;
+    char16_t last;
+    int every;    ///< 2: a small letter follows each capital
+    int distance; ///< to the small letter
+};
 
-char16_t shifted(char16_t unit, int distance)
-{
-    return static_cast<char16_t>(unit + distance);
-}
-
-/// Blocks in which capital and small letter stand side by side, the capital on the even place.
-bool evencapitals(char16_t unit)
-{
-    return within(unit, 0x100, 0x137) || within(unit, 0x14A, 0x177) || within(unit, 0x1E00, 0x1E95) ||
-           within(unit, 0x460, 0x481) || within(unit, 0x48A, 0x4BF) || within(unit, 0x4D0, 0x52F);
-}
-
-bool oddcapitals(char16_t unit)
-{
-    return within(unit, 0x139, 0x148) || within(unit, 0x179, 0x17E);
-}
+// clang-format off
+constexpr auto capitals = std::to_array<Capitals>({
+//  first   last    every distance
+  { u'A',   u'Z',   1,    32 },
+  { 0xC0,   0xD6,   1,    32 },    // Latin-1
+  { 0xD8,   0xDE,   1,    32 },
+  { 0x100,  0x12E,  2,    1 },     // Latin Extended-A
+  { 0x132,  0x136,  2,    1 },
+  { 0x139,  0x147,  2,    1 },
+  { 0x14A,  0x176,  2,    1 },
+  { 0x178,  0x178,  1,    -121 },  // Y with two dots
+  { 0x179,  0x17D,  2,    1 },
+  { 0x386,  0x386,  1,    38 },    // Greek, first the letters with an accent
+  { 0x388,  0x38A,  1,    37 },
+  { 0x38C,  0x38C,  1,    64 },
+  { 0x38E,  0x38F,  1,    63 },
+  { 0x391,  0x3A1,  1,    32 },
+  { 0x3A3,  0x3AB,  1,    32 },
+  { 0x3C2,  0x3C2,  1,    1 },     // the small sigma at the end of a word
+  { 0x400,  0x40F,  1,    80 },    // Cyrillic
+  { 0x410,  0x42F,  1,    32 },
+  { 0x460,  0x480,  2,    1 },
+  { 0x48A,  0x4BE,  2,    1 },
+  { 0x4C0,  0x4C0,  1,    15 },
+  { 0x4C1,  0x4CD,  2,    1 },
+  { 0x4D0,  0x52E,  2,    1 },
+  { 0x1E00, 0x1E94, 2,    1 },     // Latin Extended Additional
+  { 0x1E9E, 0x1E9E, 1,    -7615 }, // sharp s
+  { 0x1EA0, 0x1EFE, 2,    1 },
+});
+// clang-format on
+static_assert(std::ranges::is_sorted(capitals, {}, &Capitals::first));
 
 std::u16string small(std::u16string_view text)
 {
@@ -45,15 +65,10 @@ std::u16string small(std::u16string_view text)
 
 char16_t smallletter(char16_t unit)
 {
-    if (within(unit, u'A', u'Z') || (within(unit, 0xC0, 0xDE) && unit != 0xD7) ||
-        (within(unit, 0x391, 0x3A9) && unit != 0x3A2) || within(unit, 0x410, 0x42F))
-        return shifted(unit, 32);
-    if (within(unit, 0x400, 0x40F))
-        return shifted(unit, 80);
-    if (unit == 0x178)
-        return 0xFF;
-    const bool even = unit % 2 == 0;
-    return (evencapitals(unit) && even && unit != 0x130) || (oddcapitals(unit) && !even) ? shifted(unit, 1) : unit;
+    const auto* row = std::ranges::lower_bound(capitals, unit, {}, &Capitals::last);
+    if (row == capitals.end() || unit < row->first || (unit - row->first) % row->every != 0)
+        return unit;
+    return static_cast<char16_t>(unit + row->distance);
 }
 
 void Search::loaddata(std::u16string text)

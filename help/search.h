@@ -38,7 +38,9 @@ private:
     std::optional<std::size_t> position; ///< behind the last match
 };
 
-/// A small letter for each capital of the Latin, Greek and Cyrillic alphabets; anything else as it is.
+/// The small letter of a capital in Latin-1, Latin Extended-A and Additional, modern Greek and Cyrillic with its
+/// supplement; both small sigmas are one. Anything else as it is, and so the Turkish I with a dot, which would become
+/// i.
 char16_t smallletter(char16_t unit);
 
 } // namespace help

@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The tonefret developers
 // SPDX-License-Identifier: MIT
+#include "core/autospelling.h"
 #include "core/chordmatch.h"
 #include "help/documents.h"
 #include "help/rtf.h"
@@ -8,6 +9,7 @@
 
 #include <gtest/gtest.h>
 
+#include <optional>
 #include <regex>
 #include <set>
 
@@ -131,6 +133,41 @@ TEST(HelpExamples, everytypeIsBuiltOnC)
             built.insert(text.substr(2, text.find(": ") - 2));
     for (const core::ChordType& type : core::chordtypes)
         EXPECT_TRUE(built.contains(std::string(type.caption))) << type.caption;
+}
+
+struct SpelledSection {
+    const char* heading;
+    std::optional<core::SpellingMode> mode; ///< none: the one that suits each chord
+};
+
+// clang-format off
+const SpelledSection spelledsections[] = {
+    { "Flats, or Mostly Flats (option)",                    core::SpellingMode::mostlyflats },
+    { "Mix1 (C#,Eb,F#,Ab,Bb) (option)",                     core::SpellingMode::mix1 },
+    { "Mix2 (C#,Eb,F#,G#,Bb) (option)",                     core::SpellingMode::mix2 },
+    { "Sharps, or Mostly Sharps (option)",                  core::SpellingMode::mostlysharps },
+    { "Auto, or Automatic Chord Sharps and Flats (option)", std::nullopt },
+};
+// clang-format on
+
+TEST(HelpExamples, chordsUnderASpelling_areSpelledByIt)
+{
+    const std::regex form("(([A-G][#b]?) (.*)): (" + notes + ")");
+    const auto texts = paragraphs();
+    for (const SpelledSection& section : spelledsections) {
+        auto at = std::ranges::find(texts, section.heading);
+        int found = 0;
+        while (at != texts.end() && ++at != texts.end() && !at->ends_with("(option)")) {
+            std::smatch example;
+            if (!std::regex_match(*at, example, form))
+                continue;
+            ++found;
+            const auto mode = section.mode ? section.mode : core::suitingmode(example[3].str(), example[2].str());
+            for (const std::string& note : tests::words(example[4].str()))
+                EXPECT_EQ(note, core::NoteSpelling{.mode = mode.value()}.nameof(tests::pitchof(note))) << *at;
+        }
+        EXPECT_GT(found, 1) << section.heading;
+    }
 }
 
 TEST(HelpExamples, notesInARow_standOnlyInCheckedExamples)

@@ -80,6 +80,9 @@ const TextCase textcases[] = {
   { "symbol_bullet",           R"({\fonttbl{\f1\fcharset2 S;}}{\f1\'b7}\tab a)", {"\u2022\ta"} },
   { "bullet_text",             R"({\pntext\f0\bullet\tab}a\par)",               {"\u2022\ta"} },
   { "list_text",               R"({\listtext 1.\tab}a\par)",                    {"1.\ta"} },
+  { "label_set_flush_right",   R"({\listtext  1.\tab}a\par)",                   {"1.\ta"} },
+  { "label_of_no_number",      R"({\listtext\tab}a\par)",                      {"a"} },
+  { "tab_behind_no_label",     R"({\listtext\tab}\tab a\par)",                 {"\ta"} },
   { "bin_is_passed_over",      R"(a\bin5 }}}}}b)",                               {"ab"} },
   { "bin_longer_than_text",    R"(a\bin999999 b)",                               {"a"} },
   { "negative_bin",            R"(a\bin-5 b)",                                   {"ab"} },
@@ -154,6 +157,16 @@ TEST(Rtf, cells_knowTheirPlaceInTheTable)
     for (const Paragraph& p : read)
         places.push_back(p.text() + (p.cell ? std::to_string(p.cell->row) + std::to_string(p.cell->column) : ""));
     EXPECT_THAT(places, ElementsAre("a00", "b00", "c01", "d10", "e"));
+}
+
+TEST(Rtf, tableWithinACell_givesItsTextsToThatCell)
+{
+    const auto read = readrtf(inbraces(R"(\trowd\intbl a\cell{\itap2 b\nestcell c\nestcell{\*\nesttableprops\trowd})"
+                                       R"({\nonesttables\par}}\intbl d\cell\row)"));
+    const std::vector<help::TablePlace> places{{0, 0}, {0, 1}, {0, 1}, {0, 1}};
+    ASSERT_EQ(read.size(), places.size());
+    for (std::size_t i = 0; i < places.size(); ++i)
+        EXPECT_EQ(read[i].cell, places[i]) << read[i].text();
 }
 
 // What follows would take hours, or the stack, if it were read in the wrong way.

@@ -105,10 +105,63 @@ TEST_F(SearchTest, capitalsOutsideAscii_matchTheirSmallLetters)
     expectmissed(u"prelude");
 }
 
+struct AlphabetRow {
+    const char16_t* capitals;
+    const char16_t* small;
+};
+
+// clang-format off
+const AlphabetRow alphabetrows[] = {
+    {u"ABCDEFGHIJKLMNOPQRSTUVWXYZ",                       u"abcdefghijklmnopqrstuvwxyz"},
+    {u"ÀÁÂÃÄÅÆÇÈÉÊËÌÍÎÏÐÑÒÓÔÕÖØÙÚÛÜÝÞ",                   u"àáâãäåæçèéêëìíîïðñòóôõöøùúûüýþ"},
+    {u"ĀĂĄĆĈĊČĎĐĒĔĖĘĚĜĞĠĢĤĦĨĪĬĮĲĴĶĹĻĽĿŁŃŅŇŊŌŎŐŒŔŖŘŚŜŞŠŢŤŦŨŪŬŮŰŲŴŶŸŹŻŽ",
+     u"āăąćĉċčďđēĕėęěĝğġģĥħĩīĭįĳĵķĺļľŀłńņňŋōŏőœŕŗřśŝşšţťŧũūŭůűųŵŷÿźżž"},
+    {u"ΆΈΉΊΌΎΏΑΒΓΔΕΖΗΘΙΚΛΜΝΞΟΠΡΣΤΥΦΧΨΩΪΫ",                u"άέήίόύώαβγδεζηθικλμνξοπρστυφχψωϊϋ"},
+    {u"ЀЁЂЃЄЅІЇЈЉЊЋЌЍЎЏАБВГДЕЖЗИЙКЛМНОПРСТУФХЦЧШЩЪЫЬЭЮЯ", u"ѐёђѓєѕіїјљњћќѝўџабвгдежзийклмнопрстуфхцчшщъыьэюя"},
+    {u"ѠѪѲҀҐҒҖҚҢҮҶҺӀӁӋӍӐӘӢӨӶԀԮ",                          u"ѡѫѳҁґғҗқңүҷһӏӂӌӎӑәӣөӷԁԯ"},
+    {u"ḀḐẀẄẔẞẠẤỆỌỮỸỾ",                                    u"ḁḑẁẅẕßạấệọữỹỿ"},
+};
+// clang-format on
+
+TEST_F(SearchTest, wordsOfOneAlphabet_areFoundBothWays)
+{
+    for (const auto& [capitals, small] : alphabetrows) {
+        const std::size_t length = std::u16string_view(small).size();
+        load(capitals);
+        expectfound(small, 0, length);
+        load(small);
+        expectfound(capitals, 0, length);
+    }
+}
+
+TEST_F(SearchTest, sigmaAtTheEnd_isASigma)
+{
+    load(u"Ο ΗΧΟΣ, ο ήχος");
+    expectfound(u"ηχος", 2, 6);
+    expectfound(u"ΉΧΟΣ", 10, 14);
+}
+
+TEST_F(SearchTest, textBesideTheAlphabets_isFoundAsItIs)
+{
+    load(u"日本語の和音 ♯♭");
+    expectfound(u"和音", 4, 6);
+    expectfound(u"♭", 8, 9);
+    expectmissed(u"和声");
+}
+
 TEST(SmallLetter, signsAndSmallLetters_stay)
 {
-    for (const char16_t unit : {u'a', u'ß', u'÷', u'×', u'#', u'9', u'ž', u'\uFFFD'})
-        EXPECT_EQ(help::smallletter(unit), unit);
+    for (const char16_t unit : {u'a', u'ß', u'÷', u'×', u'#', u'9', u'ž', u'\u0130', u'\u0131', u'\u0138', u'ŉ', u'ſ',
+                                u'\u03A2', u'ΐ', u'ӏ', u'\u1E9F', u'@', u'[', u'\uFFFD'})
+        EXPECT_EQ(help::smallletter(unit), unit) << std::hex << unsigned{unit};
+}
+
+TEST(SmallLetter, everyunit_isSmallAfterOneStep)
+{
+    for (unsigned unit = 0; unit <= 0xFFFF; ++unit) {
+        const char16_t once = help::smallletter(static_cast<char16_t>(unit));
+        EXPECT_EQ(help::smallletter(once), once) << std::hex << unit;
+    }
 }
 
 } // namespace

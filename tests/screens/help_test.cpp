@@ -31,6 +31,14 @@ protected:
     {
         QTest::mouseClick(control(QLatin1String(name), screen), Qt::LeftButton);
     }
+    /// What every widget of the main screen gives, behind its name.
+    QStringList everywidgets(QString (QWidget::*property)() const) const
+    {
+        QStringList all;
+        for (const auto* each : program.mainscreen.findChildren<QWidget*>())
+            all.append(each->objectName() + QLatin1Char(':') + (each->*property)());
+        return all;
+    }
     static std::string tipof(const QWidget* control) { return str(control->toolTip()); }
 };
 
@@ -46,6 +54,15 @@ protected:
     {
         box->setText(QString::fromUtf8(text));
         QTest::keyClick(box, Qt::Key_Return);
+    }
+    /// Where the word stands, found by the button until it finds nothing more.
+    std::vector<int> everyplaceof(const char* word)
+    {
+        std::vector<int> places;
+        box->setText(QString::fromUtf8(word));
+        for (press(screen, "findbut"); places.empty() || begin() > places.back(); press(screen, "findbut"))
+            places.push_back(begin());
+        return places;
     }
     int begin() const { return area->textCursor().selectionStart(); }
     std::string selected() const { return str(area->textCursor().selectedText()); }
@@ -119,6 +136,49 @@ TEST_F(HelpViewer, enter_findsOnAndBeginsAgainAfterAMiss)
     EXPECT_EQ(begin(), first);
 }
 
+struct EnterRow {
+    const char* name;
+    Qt::Key key;
+    Qt::KeyboardModifiers modifiers;
+    const char* text;
+    bool finds;
+};
+
+TEST_F(HelpViewer, keyOfALineEnd_findsOnce)
+{
+    const EnterRow rows[] = {
+        {"Return", Qt::Key_Return, Qt::NoModifier, "\r", true},
+        {"Enter of the keypad", Qt::Key_Enter, Qt::KeypadModifier, "\r", true},
+        {"Return that brings no character", Qt::Key_Return, Qt::NoModifier, "", true},
+        {"Ctrl+Return", Qt::Key_Return, Qt::ControlModifier, "\n", true},
+        {"Ctrl+M", Qt::Key_M, Qt::ControlModifier, "\r", true},
+        {"Ctrl+J", Qt::Key_J, Qt::ControlModifier, "\n", true},
+        {"Ctrl+M as Ctrl and a letter", Qt::Key_M, Qt::ControlModifier, "m", true},
+        {"Ctrl+J without a character", Qt::Key_J, Qt::ControlModifier, "", true},
+        {"character 10 of another key", Qt::Key_unknown, Qt::NoModifier, "\n", true},
+        {"Tab's neighbour Ctrl+K", Qt::Key_K, Qt::ControlModifier, "\v", false},
+        {"Alt+M", Qt::Key_M, Qt::AltModifier, "", false},
+    };
+    const std::vector<int> places = everyplaceof("octave");
+    ASSERT_GT(places.size(), std::size(rows));
+    press(screen, "findbut"); // at the first place again
+    std::size_t place = 0;
+    for (const EnterRow& row : rows) {
+        QKeyEvent typed(QEvent::KeyPress, row.key, row.modifiers, QLatin1String(row.text));
+        QApplication::sendEvent(box, &typed);
+        place += row.finds ? 1 : 0;
+        EXPECT_EQ(begin(), places.at(place)) << row.name;
+        EXPECT_EQ(str(box->text()), "octave") << row.name;
+    }
+}
+
+TEST_F(HelpViewer, letterMAndJ_areTyped)
+{
+    QTest::keyClicks(box, QStringLiteral("mjMJ"));
+    EXPECT_EQ(str(box->text()), "mjMJ");
+    EXPECT_FALSE(area->textCursor().hasSelection());
+}
+
 TEST_F(HelpViewer, enterInAnEmptyBox_leavesTheViewAndTheScreen)
 {
     choosetopic(40);
@@ -140,6 +200,20 @@ TEST_F(HelpViewer, openedAgain_comesToTheFrontAndKeepsItsPlace)
     const int there = begin();
     EXPECT_EQ(openhelp(), screen);
     EXPECT_EQ(begin(), there);
+}
+
+TEST_F(HelpViewer, closedAndOpenedAgain_beginsAtItsTop)
+{
+    choosetopic(40);
+    find("octave");
+    press(screen, "returnbut");
+    QWidget* again = openhelp();
+    const auto* text = control<QTextEdit>(QStringLiteral("helptext"), again);
+    EXPECT_EQ(text->textCursor().position(), 0);
+    EXPECT_EQ(text->verticalScrollBar()->value(), 0);
+    EXPECT_EQ(str(control(QStringLiteral("cbo1"), again)->property("currentText").toString()),
+              "Use Down Arrow at Right - > ");
+    EXPECT_EQ(str(control(QStringLiteral("findtext"), again)->property("text").toString()), "");
 }
 
 TEST_F(HelpViewer, picturebutton_showsTheNumberedMainScreen)
@@ -295,21 +369,24 @@ TEST_F(HelpScreens, systeminformation_isToldToBeUnavailable)
 
 TEST_F(HelpScreens, tipsToggledTwice_areBackOnEveryControl)
 {
-    const auto tips = [this] {
-        QStringList all;
-        for (const auto* each : program.mainscreen.findChildren<QWidget*>())
-            all.append(each->objectName() + QLatin1Char(':') + each->toolTip());
-        return all;
-    };
-    const QStringList before = tips();
-    const auto* key = control(QStringLiteral("key_0"));
+    const QStringList before = everywidgets(&QWidget::toolTip);
     pick(QStringLiteral("mnutips"));
-    EXPECT_EQ(tipof(key), "");
-    EXPECT_EQ(str(key->accessibleDescription()), "piano note entry / readout");
     EXPECT_FALSE(control<QAction>(QStringLiteral("mnutips"))->isChecked());
     pick(QStringLiteral("mnutips"));
-    EXPECT_EQ(tips(), before);
+    EXPECT_EQ(everywidgets(&QWidget::toolTip), before);
     EXPECT_TRUE(control<QAction>(QStringLiteral("mnutips"))->isChecked());
+}
+
+TEST_F(HelpScreens, tipsSwitchedOff_leaveNoTipAndEveryName)
+{
+    const QStringList names = everywidgets(&QWidget::accessibleName);
+    const QStringList descriptions = everywidgets(&QWidget::accessibleDescription);
+    EXPECT_EQ(str(control(QStringLiteral("key_0"))->accessibleDescription()), "piano note entry / readout");
+    pick(QStringLiteral("mnutips"));
+    for (const auto* each : program.mainscreen.findChildren<QWidget*>())
+        EXPECT_EQ(tipof(each), "") << str(each->objectName());
+    EXPECT_EQ(everywidgets(&QWidget::accessibleName), names);
+    EXPECT_EQ(everywidgets(&QWidget::accessibleDescription), descriptions);
 }
 
 } // namespace
