@@ -109,7 +109,7 @@ int NeckPanel::stepped(int index, int step, int first, int last) const
 /// The neck, from a picture that is painted anew only when it would look different.
 void NeckPanel::paintbackdrop(QPainter& painter, const ui::Look& look)
 {
-    const QRect place = look.place(places::neckarea);
+    const QRect place = look.place(neckreach(session.fretboard));
     const double scale = painter.device()->devicePixelRatioF();
     const Pictured wanted{session.fretboard.hand, session.fretboard.layout, look.zoom(), &look.theme(), scale};
     if (pictured != wanted) {

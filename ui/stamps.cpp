@@ -10,7 +10,7 @@
 namespace ui {
 namespace {
 
-constexpr int largest = 1 << 16; ///< in device pixels
+constexpr int largest = 1 << 15; ///< in device pixels
 
 } // namespace
 
