@@ -3,7 +3,6 @@
 #include "app/portrait.h"
 
 #include "help/basictexts.h"
-#include "help/pictures.h"
 #include "mainscreen/mainscreen.h"
 
 #include <QMenuBar>
@@ -46,13 +45,13 @@ struct Part {
 // clang-format off
 constexpr auto parts = std::to_array<Part>({
 //  caption     from         to            number at
-  { "Label32",  "",          "",            0.97,  0.5   },
+  { "Label32",  "",          "",            0.97,  0.66  },
   { "Label10",  "key_0",     "key_24",      0.5,   0.62  },
   { "Label16",  "Crd_0",     "Crd_27",      0.84,  1.12  },
   { "Label11",  "chord",     "note_5",      1.02,  0.0   },
   { "Label9",   "key_25",    "key_25",      0.5,  -0.35  },
   { "Label22",  "cordcam",   "cordcam",     0.5,  -0.35  },
-  { "Label13",  "botl",      "botl",       -0.3,   0.0   },
+  { "Label13",  "botl",      "botl",       -0.2,   0.0   },
   { "Label14",  "trans1_0",  "trans1_29",   0.42, -0.12  },
   { "Label29",  "cmdsharp",  "cmdauto",    -0.06,  0.5   },
   { "Label15",  "cbotype",   "optu",        1.0,   0.0   },
@@ -127,7 +126,7 @@ QPixmap cut(const QPixmap& picture, const QRect& area)
 
 } // namespace
 
-Portrait portrait()
+help::Portrait portrait()
 {
     Sitter sitter;
     const QPixmap whole = sitter.numbered();

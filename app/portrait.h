@@ -2,20 +2,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <QPixmap>
+#include "help/pictures.h"
 
 namespace app {
 
-/// Pictures of the main screen for the help, with its parts numbered: a screen of their own, which shows a C major
-/// chord on a guitar whatever the program shows at the moment.
-struct Portrait {
-    QPixmap whole;
-    QPixmap upper; ///< keyboard, readouts and chord buttons
-    QPixmap lower; ///< selectors and fretboard
-};
-
-/// Takes the pictures, in the desktop's colours.
-Portrait portrait();
+/// Takes the pictures of the main screen for the help, in the desktop's colours: of a screen of their own, which shows
+/// a C major chord on a guitar whatever the program shows at the moment.
+help::Portrait portrait();
 
 /// The program's icon, drawn as packaging/tonefret.svg is. `size` is in logical pixels, `ratio` that of the display's.
 QPixmap programicon(int size, double ratio);

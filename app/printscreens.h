@@ -35,8 +35,8 @@ private:
     void joinbox(print::NumberBox* box, void (mainscreen::Session::*change)(const std::string&), Procedure down,
                  Procedure up);
 
-    template <typename Screen>
-    void join(Screen* screen, void (Screen::*told)(), Procedure procedure)
+    template <typename Screen, typename Teller>
+    void join(Screen* screen, void (Teller::*told)(), Procedure procedure)
     {
         QObject::connect(screen, told, screen, [this, procedure] { stage.act([&] { (session.*procedure)(); }); });
     }

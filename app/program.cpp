@@ -20,6 +20,10 @@ Program::Program(ui::QtDesktop& opened)
     stage.onchange([this] { display(); });
     desktop.beforeasking([this] { stage.showall(); });
     desktop.setmain(&mainscreen);
+    QObject::connect(&mainscreen, &mainscreen::MainScreen::lookchanged, &mainscreen, [this] {
+        for (ui::Companion* open : mainscreen.findChildren<ui::Companion*>())
+            open->followlook();
+    });
     desktop.add(ui::Screen::frmretune, [this](QWidget* owner) { return makeretune(owner); });
     desktop.add(ui::Screen::custom, [this](QWidget* owner) { return makecustom(owner); });
     desktop.add(ui::Screen::arrange, [this](QWidget* owner) { return makearrange(owner); });
@@ -53,7 +57,7 @@ QWidget* Program::makeretune(QWidget* owner)
     retunescreen = new instruments::RetuneScreen(look, owner);
     QObject::connect(retunescreen, &instruments::RetuneScreen::cmdret_Click, retunescreen,
                      [this](int index) { stage.act([&] { session.cmdret_Click(index); }); });
-    QObject::connect(retunescreen, &QDialog::finished, retunescreen,
+    QObject::connect(retunescreen, &ui::Companion::closed, retunescreen,
                      [this] { stage.act([&] { session.frmretune_Unload(); }); });
     return retunescreen;
 }
@@ -94,7 +98,7 @@ QWidget* Program::makehelp(QWidget* owner)
     const auto document = help::loaddata(help::completehelp, folders);
     auto* screen = new help::HelpScreen(look, help::readrtf(document.value_or("")), owner);
     QObject::connect(screen, &help::HelpScreen::cmdpic_Click, screen, [this, screen] { showpicture(screen); });
-    QObject::connect(screen, &QDialog::finished, screen, [this] {
+    QObject::connect(screen, &ui::Companion::closed, screen, [this] {
         if (picturescreen)
             picturescreen->close();
     });
@@ -104,7 +108,7 @@ QWidget* Program::makehelp(QWidget* owner)
 void Program::showpicture(QWidget* owner)
 {
     if (!picturescreen || !picturescreen->isVisible())
-        picturescreen = new help::PictureScreen(look, portrait().whole, owner);
+        picturescreen = new help::PictureScreen(look, portrait, owner);
     picturescreen->setAttribute(Qt::WA_DeleteOnClose);
     picturescreen->show();
     picturescreen->raise();
@@ -113,8 +117,7 @@ void Program::showpicture(QWidget* owner)
 
 QWidget* Program::makebasichelp(QWidget* owner)
 {
-    const Portrait pictures = portrait();
-    auto* screen = new help::BasicHelpScreen(look, pictures.upper, pictures.lower, owner);
+    auto* screen = new help::BasicHelpScreen(look, portrait, owner);
     QObject::connect(screen, &help::BasicHelpScreen::cmdhelp2_Click, screen,
                      [this] { stage.act([&] { session.cmdhelp2_Click(); }); });
     return screen;
@@ -122,9 +125,7 @@ QWidget* Program::makebasichelp(QWidget* owner)
 
 QWidget* Program::makeabout(QWidget* owner)
 {
-    constexpr int iconsize = 64;
-    const QPixmap icon = programicon(qRound(iconsize * look.zoom()), mainscreen.devicePixelRatioF());
-    auto* screen = new help::AboutScreen(look, icon, QStringLiteral(TONEFRET_VERSION), owner);
+    auto* screen = new help::AboutScreen(look, programicon, QStringLiteral(TONEFRET_VERSION), owner);
     QObject::connect(screen, &help::AboutScreen::cmdSysInfo_Click, screen,
                      [this] { stage.act([&] { help::StartSysInfo(*system, desktop); }); });
     return screen;

@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: MIT
 #include "custom/arrangescreen.h"
 
-#include "ui/button.h"
 #include "ui/readout.h"
 #include "ui/text.h"
 
@@ -25,19 +24,17 @@ constexpr const char* instruction =
 } // namespace
 
 ArrangeScreen::ArrangeScreen(const CustomTable& shown, const ui::Look& mainlook, QWidget* owner)
-    : Companion(mainlook, owner),
+    : Companion(mainlook, owner, Qt::Window),
       table(shown),
       roving(new ui::RovingFocus([this](int place, Qt::Key pressed) { return neighbour(place, pressed); }, this))
 {
     setObjectName(QStringLiteral("arrange"));
     setWindowTitle(QStringLiteral("Arrange the Order (position) of custom data"));
-    auto* ground = new QWidget(this);
-    auto* column = new QVBoxLayout(ground);
-    fitroom(column, 16, 12);
+    auto* column = new QVBoxLayout;
     column->addWidget(caption("Label1", instruction, ui::Type::text, textwidth));
     column->addLayout(addplaces());
     column->addLayout(addend());
-    setCentralWidget(ground);
+    setcontent(column, 12);
     display();
 }
 
@@ -84,20 +81,13 @@ void ArrangeScreen::addplace(QGridLayout* grid, int place)
 QBoxLayout* ArrangeScreen::addend()
 {
     auto* row = new QHBoxLayout;
-    auto* cmdret = new ui::Button(look, QStringLiteral("Done ! Return !"), this);
-    cmdret->setObjectName(QStringLiteral("cmdret"));
-    cmdret->setAccessibleName(cmdret->text());
-    cmdret->setToolTip(QStringLiteral("close this screen"));
-    connect(cmdret, &QAbstractButton::clicked, this, &QWidget::close);
-    fit([cmdret] { cmdret->updateGeometry(); });
     row->addStretch(1);
-    row->addWidget(cmdret);
+    row->addWidget(button("cmdret", "Done ! Return !", "close this screen", [this] { close(); }));
     return row;
 }
 
 void ArrangeScreen::display()
 {
-    followzoom();
     if (carried && table.at(static_cast<std::size_t>(*carried)).name != carriedname)
         carried.reset(); // another entry has come to its place
     for (std::size_t place = 0; place < placecount; ++place)

@@ -35,11 +35,9 @@ Q_SIGNALS:
     void mnuhelpcomplete_Click();
 
 private:
-    using Handler = std::function<void()>;
-
     void addmenus();
-    QBoxLayout* addsteps();
-    QBoxLayout* addsides();
+    QLayout* addsteps();
+    QLayout* addsides();
     QBoxLayout* step(QBoxLayout* column, int number, const char* text);
     QBoxLayout* side(QBoxLayout* column);
     void addplace(QBoxLayout* card);
@@ -50,7 +48,6 @@ private:
     QBoxLayout* addnoteboxes();
     QBoxLayout* addnotebuttons();
     void addsave(QBoxLayout* card);
-    ui::Button* button(const char* name, const char* text, const char* tip, const Handler& handler);
     ui::Readout* readout(const char* name, ui::Type type, ui::Readout::Frame frame, QSize atone);
     void displaynotes();
 

@@ -25,9 +25,8 @@ constexpr std::array<const char*, 12> notecaptions{"C",     "C# Db", "D",     "D
 /// A card with the step's number, its instruction and room below for its controls.
 QBoxLayout* CustomScreen::step(QBoxLayout* column, int number, const char* text)
 {
-    auto* card = new ui::Card(look, this);
-    auto* row = new QHBoxLayout(card);
-    fitroom(row, 9, 9);
+    auto* row = new QHBoxLayout;
+    column->addWidget(card(row));
     auto* badge = readout("", ui::Type::strong, ui::Readout::Frame::root, {20, 20});
     badge->setObjectName(ui::membername("step", number));
     badge->settext(QString::number(number));
@@ -38,11 +37,10 @@ QBoxLayout* CustomScreen::step(QBoxLayout* column, int number, const char* text)
     instruction->setObjectName(ui::membername("instruction", number));
     content->addWidget(instruction, 0, Qt::AlignLeft);
     row->addLayout(content, 1);
-    column->addWidget(card);
     return content;
 }
 
-QBoxLayout* CustomScreen::addsteps()
+QLayout* CustomScreen::addsteps()
 {
     auto* column = new QVBoxLayout;
     fitroom(column, 0, 8);
@@ -86,9 +84,8 @@ void CustomScreen::addname(QBoxLayout* card)
     txtname->setObjectName(QStringLiteral("txtname"));
     txtname->setAccessibleName(QStringLiteral("name of instrument or tuning"));
     txtname->setToolTip(QStringLiteral("name, 25 characters at most"));
-    fitfont(txtname, ui::Type::text);
-    fitsize(txtname, {250, 26});
-    fit([this] { txtname->setPalette(look.palettefor(look.theme().card)); });
+    fitbox(txtname);
+    fitsize(txtname, {250, -1});
     connect(txtname, &NameBox::clicked, this, [this] { stage.act([this] { form.txtname_Click(); }); });
     connect(txtname, &QLineEdit::textChanged, this,
             [this](const QString& typed) { stage.act([&] { form.txtname_Change(typed.toStdString()); }); });
@@ -190,14 +187,12 @@ void CustomScreen::addsave(QBoxLayout* card)
 
 QBoxLayout* CustomScreen::side(QBoxLayout* column)
 {
-    auto* card = new ui::Card(look, this);
-    auto* content = new QVBoxLayout(card);
-    fitroom(content, 10, 8);
-    column->addWidget(card);
+    auto* content = new QVBoxLayout;
+    column->addWidget(card(content));
     return content;
 }
 
-QBoxLayout* CustomScreen::addsides()
+QLayout* CustomScreen::addsides()
 {
     auto* column = new QVBoxLayout;
     fitroom(column, 0, 8);

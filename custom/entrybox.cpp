@@ -2,8 +2,6 @@
 // SPDX-License-Identifier: MIT
 #include "custom/entrybox.h"
 
-#include "ui/paint.h"
-
 #include <QDrag>
 #include <QKeyEvent>
 #include <QMimeData>
@@ -123,7 +121,7 @@ void EntryBox::keyPressEvent(QKeyEvent* event)
 
 void EntryBox::focusInEvent(QFocusEvent* event)
 {
-    ring = ui::bykeyboard(*event, ring);
+    ring.comes(*event);
     update();
 }
 
@@ -141,8 +139,9 @@ void EntryBox::paintEvent(QPaintEvent* /*event*/)
     const double margin = 7 * look.zoom();
     ui::painttext(painter, look, QRectF(rect()).adjusted(margin, 0, -margin, 0), name, look.font(ui::Type::text),
                   held ? theme.pressedtext : theme.text, Qt::AlignLeft | Qt::AlignVCenter);
-    if (aimed || (hasFocus() && ring))
+    if (aimed)
         ui::paintfocus(painter, look, rect(), corner);
+    ring.paint(painter, look, *this, rect(), corner);
 }
 
 } // namespace custom

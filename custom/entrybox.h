@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "ui/look.h"
+#include "ui/paint.h"
 
 #include <QWidget>
 
@@ -47,7 +47,7 @@ private:
     bool held = false;  ///< picked up by keyboard
     bool armed = false; ///< the left button went down here and has not come up
     bool aimed = false; ///< a dragged box is over this one
-    bool ring = false;  ///< the keyboard brought the focus here
+    ui::FocusRing ring;
 };
 
 } // namespace custom

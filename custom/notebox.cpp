@@ -2,8 +2,6 @@
 // SPDX-License-Identifier: MIT
 #include "custom/notebox.h"
 
-#include "ui/paint.h"
-
 #include <QPainter>
 
 namespace custom {
@@ -25,8 +23,7 @@ void NoteBox::paintEvent(QPaintEvent* /*event*/)
     ui::paintbox(painter, look, rect(), underMouse() ? theme.hover : theme.button,
                  underMouse() ? theme.accent : theme.hairline, corner);
     ui::painttext(painter, look, rect(), text(), look.font(ui::Type::strong), theme.text);
-    if (showsfocus())
-        ui::paintfocus(painter, look, rect(), corner);
+    ring.paint(painter, look, *this, rect(), corner);
 }
 
 } // namespace custom

@@ -2,31 +2,32 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "ui/look.h"
+#include "ui/companion.h"
 
-#include <QDialog>
 #include <QPixmap>
+
+#include <functional>
 
 namespace help {
 
 /// Says what the program is.
-class AboutScreen : public QDialog {
+class AboutScreen : public ui::Companion {
     Q_OBJECT
 
 public:
+    /// Paints the program's icon; `size` is in logical pixels, `ratio` that of the display's.
+    using Icon = std::function<QPixmap(int size, double ratio)>;
+
     /// `version` is "major.minor.revision".
-    AboutScreen(ui::Look shown, const QPixmap& icon, const QString& version, QWidget* owner);
+    AboutScreen(const ui::Look& mainlook, const Icon& icon, const QString& version, QWidget* owner);
 
 Q_SIGNALS:
     void cmdSysInfo_Click();
 
-protected:
-    void showEvent(QShowEvent* event) override;
-
 private:
-    void arrange(const QPixmap& icon, const QString& version);
-
-    ui::Look look;
+    QLabel* addicon(const Icon& icon);
+    QLayout* addtexts(const QString& version);
+    QLayout* addbuttons();
 };
 
 } // namespace help

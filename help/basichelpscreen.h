@@ -2,36 +2,27 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "ui/look.h"
-
-#include <QDialog>
-#include <QLabel>
-#include <QPixmap>
+#include "help/pictures.h"
 
 namespace help {
 
 /// The basic help: one page of fixed texts with two numbered pictures of the main screen.
-class BasicHelpScreen : public QDialog {
+class BasicHelpScreen : public ui::Companion {
     Q_OBJECT
 
 public:
-    /// `upper` shows the keyboard and what stands beside it, `lower` the selectors and the fretboard.
-    BasicHelpScreen(ui::Look shown, const QPixmap& upper, const QPixmap& lower, QWidget* owner);
+    /// `camera` takes the pictures, in the desktop's colours.
+    BasicHelpScreen(const ui::Look& mainlook, std::function<Portrait()> camera, QWidget* owner);
 
 Q_SIGNALS:
     void cmdhelp2_Click();
 
-protected:
-    void showEvent(QShowEvent* event) override;
-
 private:
-    QLabel* text(const char* name, const char* shown, ui::Type type);
-    QLabel* image(const char* name, const char* description, const QPixmap& picture);
-    QLayout* pictures(const QPixmap& upper, const QPixmap& lower);
-    QLayout* texts();
-    QLayout* buttons();
+    QLayout* addpictures();
+    QLayout* addtexts();
+    QLayout* addbuttons();
 
-    ui::Look look;
+    Portraits portraits;
 };
 
 } // namespace help

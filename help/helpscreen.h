@@ -4,43 +4,47 @@
 
 #include "help/rtf.h"
 #include "help/search.h"
-#include "ui/look.h"
+#include "ui/companion.h"
 #include "ui/selectorbox.h"
 
-#include <QDialog>
 #include <QLineEdit>
 #include <QTextEdit>
 
 namespace help {
 
 /// The help viewer: a document, a list of topics that lead to its headings, and a box to find any text in it.
-class HelpScreen : public QDialog {
+class HelpScreen : public ui::Companion {
     Q_OBJECT
 
 public:
-    /// Shows `paragraphs`; none leave the area empty. The look is its own: it stays as it was when the screen was
-    /// opened.
-    HelpScreen(ui::Look shown, const std::vector<Paragraph>& paragraphs, QWidget* owner);
+    /// Shows `paragraphs`; none leave the area empty.
+    HelpScreen(const ui::Look& mainlook, std::vector<Paragraph> paragraphs, QWidget* owner);
 
 Q_SIGNALS:
     void cmdpic_Click(); ///< the picture of the main screen is wanted
 
 protected:
+    std::optional<QSize> openingsize() const override;
+    void dressed() override;
     void showEvent(QShowEvent* event) override;
 
 private:
     void initvar();
     void dataload();
-    void loaddata(const std::vector<Paragraph>& paragraphs);
-    void dress();
-    void arrange();
+    void loaddata();
+    void filldocument();
+    void dressparts();
+    QLayout* arrange();
     void cbo1_Click(int item);
     void findcommand();
     void select(const Match& match);
-    void showatop();
+    void scrollto(int position, int roomabove);
     void endform() { close(); }
 
-    ui::Look look;
+    std::vector<Paragraph> document;
+    const ui::Theme* filledtheme = nullptr; ///< that the document's colours are of
+    double filledzoom = 0;                  ///< that its fonts are of
+    std::optional<int> viewed;              ///< the position at the upper edge, of a document that was filled anew
     Search search;
     QStringList titles;
     ui::SelectorBox* cbo1;

@@ -4,8 +4,9 @@
 
 #include "help/basictexts.h"
 
-#include <QLabel>
 #include <QPainter>
+
+#include <string>
 
 namespace help {
 namespace {
@@ -27,6 +28,16 @@ void paintbadge(QPainter& painter, const QPointF& middle, int number, const ui::
     painter.drawText(box, Qt::AlignCenter, QString::number(number));
 }
 
+namespace {
+
+void paintframe(QPixmap& picture, const ui::Look& look)
+{
+    QPainter painter(&picture);
+    painter.setPen(QPen(look.theme().hairline, 2)); // half of it falls outside
+    painter.drawRect(QRectF(QPointF(), picture.deviceIndependentSize()));
+}
+
+/// The disc by itself; `ratio` is that of the display's pixels.
 QPixmap numberbadge(int number, const ui::Look& look, double ratio)
 {
     const double size = diameter * look.zoom();
@@ -38,25 +49,41 @@ QPixmap numberbadge(int number, const ui::Look& look, double ratio)
     return badge;
 }
 
-QPixmap scaledtowidth(const QPixmap& picture, int width, double ratio)
+} // namespace
+
+const Portrait& Portraits::in(const ui::Look& look)
 {
-    QPixmap scaled = picture.scaledToWidth(qRound(width * ratio), Qt::SmoothTransformation);
-    scaled.setDevicePixelRatio(ratio);
-    return scaled;
+    if (theme != &look.theme())
+        taken = take();
+    theme = &look.theme();
+    return taken;
 }
 
-QGridLayout* captiongrid(const ui::Look& look, int inrow, QWidget* screen)
+QLabel* image(ui::Companion& screen, Portraits& portraits, QPixmap Portrait::*part, int widthatone)
+{
+    auto* label = new QLabel(&screen);
+    screen.fit([&screen, &portraits, part, widthatone, label] {
+        const double ratio = screen.devicePixelRatioF();
+        const QPixmap& picture = portraits.in(screen.shownlook()).*part;
+        QPixmap scaled = picture.scaledToWidth(qRound(screen.scaled(widthatone) * ratio), Qt::SmoothTransformation);
+        scaled.setDevicePixelRatio(ratio);
+        paintframe(scaled, screen.shownlook());
+        label->setPixmap(scaled);
+    });
+    return label;
+}
+
+QGridLayout* captiongrid(ui::Companion& screen, int inrow, const char* prefix)
 {
     auto* grid = new QGridLayout;
-    grid->setVerticalSpacing(qRound(5 * look.zoom()));
-    grid->setHorizontalSpacing(qRound(6 * look.zoom()));
+    screen.fitroom(grid, 0, 6);
     for (int i = 0; const BasicCaption& caption : basiccaptions) {
-        auto* badge = new QLabel(screen);
-        badge->setPixmap(numberbadge(i + 1, look, screen->devicePixelRatioF()));
+        auto* badge = new QLabel(&screen);
         badge->setAccessibleName(QString::number(i + 1));
-        auto* text = new QLabel(QString::fromLatin1(caption.text), screen);
-        text->setObjectName(QString::fromLatin1(caption.label));
-        text->setFont(look.font(ui::Type::text));
+        screen.fit([&screen, badge, number = i + 1] {
+            badge->setPixmap(numberbadge(number, screen.shownlook(), screen.devicePixelRatioF()));
+        });
+        auto* text = screen.caption((std::string(prefix) + caption.label).c_str(), caption.text, ui::Type::text);
         grid->addWidget(badge, i / inrow, i % inrow * 2);
         grid->addWidget(text, i / inrow, i % inrow * 2 + 1);
         grid->setColumnStretch(i % inrow * 2 + 1, 1);

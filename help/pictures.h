@@ -2,23 +2,45 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "ui/look.h"
+#include "ui/companion.h"
 
 #include <QGridLayout>
 #include <QPixmap>
 
+#include <functional>
+
 namespace help {
 
-/// A number in a disc, as the pictures of the main screen bear it; `ratio` is that of the display's pixels.
-QPixmap numberbadge(int number, const ui::Look& look, double ratio);
+/// Pictures of the main screen, with its parts numbered.
+struct Portrait {
+    QPixmap whole;
+    QPixmap upper; ///< keyboard, readouts and chord buttons
+    QPixmap lower; ///< selectors and fretboard
+};
 
-/// Paints the same disc around `middle`.
+/// Keeps the pictures as they look in the theme of the moment.
+class Portraits {
+public:
+    /// `camera` takes the pictures, in the desktop's colours.
+    explicit Portraits(std::function<Portrait()> camera) : take(std::move(camera)) {}
+
+    /// The pictures, taken again if the look's theme is another than that of the last ones.
+    const Portrait& in(const ui::Look& look);
+
+private:
+    std::function<Portrait()> take;
+    Portrait taken;
+    const ui::Theme* theme = nullptr; ///< that of the pictures; none: not yet taken
+};
+
+/// Paints a number in a disc around `middle`, as the pictures bear it.
 void paintbadge(QPainter& painter, const QPointF& middle, int number, const ui::Look& look);
 
-/// The picture at a width in logical pixels, smooth.
-QPixmap scaledtowidth(const QPixmap& picture, int width, double ratio);
+/// Shows one of the pictures at a width in pixels at zoom 1, as the screen's zoom and theme are. `portraits` belongs to
+/// the screen.
+QLabel* image(ui::Companion& screen, Portraits& portraits, QPixmap Portrait::*part, int widthatone);
 
-/// The captions of the basic help beside their numbers, so many to a row.
-QGridLayout* captiongrid(const ui::Look& look, int inrow, QWidget* screen);
+/// The captions of the pictures beside their numbers, so many to a row. `prefix` stands before the captions' names.
+QGridLayout* captiongrid(ui::Companion& screen, int inrow, const char* prefix = "");
 
 } // namespace help

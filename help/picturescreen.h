@@ -2,25 +2,20 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "ui/look.h"
-
-#include <QDialog>
-#include <QPixmap>
+#include "help/pictures.h"
 
 namespace help {
 
 /// Shows a numbered picture of the main screen and names its parts.
-class PictureScreen : public QDialog {
+class PictureScreen : public ui::Companion {
     Q_OBJECT
 
 public:
-    PictureScreen(ui::Look shown, const QPixmap& picture, QWidget* owner);
-
-protected:
-    void showEvent(QShowEvent* event) override;
+    /// `camera` takes the pictures, in the desktop's colours.
+    PictureScreen(const ui::Look& mainlook, std::function<Portrait()> camera, QWidget* owner);
 
 private:
-    ui::Look look;
+    Portraits portraits;
 };
 
 } // namespace help

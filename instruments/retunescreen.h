@@ -2,35 +2,28 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "ui/look.h"
-
-#include <QDialog>
-#include <QLabel>
+#include "ui/companion.h"
 
 namespace instruments {
 
-/// Asks for the note to which a string is to be tuned by hand. Modal; however it closes, `finished` tells of it.
-class RetuneScreen : public QDialog {
+/// Asks for the note to which a string is to be tuned by hand. Modal.
+class RetuneScreen : public ui::Companion {
     Q_OBJECT
 
 public:
-    RetuneScreen(const ui::Look& shown, QWidget* owner);
+    RetuneScreen(const ui::Look& mainlook, QWidget* owner);
 
     /// Names the string in question by the note that it is tuned to.
-    void display(const QString& opennote);
+    void display(const QString& opennote) const;
 
 Q_SIGNALS:
     void cmdret_Click(int index); ///< 0 "no retune", 1 to 12 for C to B
 
-protected:
-    void showEvent(QShowEvent* event) override;
-
 private:
+    QLayout* addnotes();
     QWidget* notebutton(int index);
 
-    const ui::Look& look;
     QLabel* heading;
-    QLabel* explanation;
 };
 
 } // namespace instruments

@@ -9,6 +9,7 @@
 #include "mainscreen/places.h"
 #include "mainscreen/selectorpanel.h"
 #include "mainscreen/transposepanel.h"
+#include "ui/partstyle.h"
 
 #include <QCloseEvent>
 #include <QResizeEvent>
@@ -38,7 +39,9 @@ MainScreen::MainScreen(Session& shown, ui::Stage& entered, ui::Look& shared)
 {
     setObjectName(QStringLiteral("tonefret"));
     setWindowTitle(QStringLiteral("tonefret"));
+    menuBar()->setStyle(new ui::PartStyle(look, this));
     setCentralWidget(canvas);
+    connect(canvas, &ui::Canvas::zoomed, this, &MainScreen::lookchanged);
     dressmenubar();
     panels.push_back(std::make_unique<PianoPanel>(*canvas, session, stage));
     auto output = std::make_unique<OutputPanel>(*canvas, session, stage);
@@ -147,6 +150,7 @@ void MainScreen::changeEvent(QEvent* event)
     look.followpalette(palette());
     dressmenubar();
     canvas->update();
+    Q_EMIT lookchanged();
 }
 
 void MainScreen::closeEvent(QCloseEvent* event)

@@ -28,6 +28,9 @@ public:
     /// Takes the largest comfortable size on its display and stands in its middle.
     void centre();
 
+Q_SIGNALS:
+    void lookchanged(); ///< another zoom, or other colours of the desktop
+
 protected:
     void closeEvent(QCloseEvent* event) override;
     void changeEvent(QEvent* event) override;

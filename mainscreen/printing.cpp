@@ -85,7 +85,7 @@ void Session::printpages(const std::string& text)
         job.pdf = *picked;
     }
     const ui::PaperRoom room = desktop.paperroom(job.points);
-    print::Printout printout = print::layoutpages(text, {room.characters, room.lines});
+    print::Printout printout = print::layoutpages(text, room);
     if (printout.toolong > 0)
         desktop.tell(ui::Icon::information, toolongtext(printout, room));
     job.pages = std::move(printout.pages);

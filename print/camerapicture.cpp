@@ -59,14 +59,15 @@ constexpr ui::TwipRect area{0, 0, 160 * px, 110 * px};
 
 } // namespace
 
-CameraPicture::CameraPicture(const ui::Look& look, QWidget* parent) : QWidget(parent)
+CameraPicture::CameraPicture(ui::Companion& screen) : QWidget(&screen)
 {
+    const ui::Look& look = screen.shownlook();
     setObjectName(QStringLiteral("camerapicture"));
-    setFixedSize(look.place(area).size());
+    screen.fit([this, &look] { setFixedSize(look.place(area).size()); });
     for (const ShapeRow& row : shapes) {
         auto* shape = new Shape(look, QColor::fromRgba(row.face), row.corner, this);
         shape->setObjectName(QString::fromLatin1(row.name));
-        shape->setGeometry(look.place(row.place));
+        screen.fit([shape, &look, place = row.place] { shape->setGeometry(look.place(place)); });
     }
 }
 

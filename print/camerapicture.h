@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "ui/look.h"
+#include "ui/companion.h"
 
 #include <QWidget>
 
@@ -13,7 +13,7 @@ class CameraPicture : public QWidget {
     Q_OBJECT
 
 public:
-    CameraPicture(const ui::Look& look, QWidget* parent);
+    explicit CameraPicture(ui::Companion& screen);
 };
 
 } // namespace print

@@ -3,19 +3,16 @@
 #pragma once
 
 #include "print/camera.h"
-#include "ui/look.h"
-
-#include <QDialog>
-#include <QLabel>
+#include "ui/companion.h"
 
 namespace print {
 
 /// The camera's window: a little camera, what it tells, and three buttons. Not modal.
-class CameraScreen : public QDialog {
+class CameraScreen : public ui::Companion {
     Q_OBJECT
 
 public:
-    CameraScreen(const ui::Look& shown, QWidget* owner);
+    CameraScreen(const ui::Look& mainlook, QWidget* owner);
 
     void display(const CameraLabels& labels);
 
@@ -25,14 +22,13 @@ Q_SIGNALS:
     void cmdclear_Click();
 
 private:
-    QLabel* addlabel(const char* name, ui::Type type);
-    QWidget* addbutton(const char* name, const char* caption, void (CameraScreen::*told)());
+    QLayout* addlabels();
+    QLayout* addbuttons();
 
-    const ui::Look& look;
-    QLabel* lbltaken;
-    QLabel* lbllast;
-    QLabel* lbltype;
-    QLabel* lblleft;
+    QLabel* lbltaken = caption("lbltaken", "", ui::Type::strong);
+    QLabel* lbllast = caption("lbllast", "", ui::Type::text);
+    QLabel* lbltype = caption("lbltype", "", ui::Type::heading);
+    QLabel* lblleft = caption("lblleft", "", ui::Type::text);
 };
 
 } // namespace print

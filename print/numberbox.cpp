@@ -5,7 +5,6 @@
 #include "ui/text.h"
 
 #include <QHBoxLayout>
-#include <QLabel>
 
 namespace print {
 namespace {
@@ -14,40 +13,35 @@ constexpr const char* boxtip = "use arrows to increase or decrease";
 constexpr int boxwidth = 46; // pixels at zoom 1
 constexpr int arrowwidth = 26;
 
-ui::Button* arrow(const ui::Look& look, Qt::ArrowType pointing, const char* name, const char* tip,
+ui::Button* arrow(ui::Companion& screen, Qt::ArrowType pointing, const char* name, const char* tip,
                   const QString& spoken, QWidget* parent)
 {
-    auto* button = new ui::Button(look, pointing, parent);
+    auto* button = new ui::Button(screen.shownlook(), pointing, parent);
     button->setObjectName(QString::fromLatin1(name));
     button->setToolTip(QString::fromLatin1(tip));
     button->setAccessibleName(spoken);
-    button->setAutoDefault(false);
-    button->setFixedWidth(qRound(arrowwidth * look.zoom()));
+    screen.fitsize(button, {arrowwidth, -1});
     return button;
 }
 
 } // namespace
 
-NumberBox::NumberBox(const ui::Look& look, const NumberRow& row, QWidget* parent)
-    : QWidget(parent), box(new QLineEdit(this))
+NumberBox::NumberBox(ui::Companion& screen, const NumberRow& row) : QWidget(&screen), box(new QLineEdit(this))
 {
     auto* line = new QHBoxLayout(this);
-    line->setContentsMargins(0, 0, 0, 0);
-    line->setSpacing(qRound(4 * look.zoom()));
-    auto* caption = new QLabel(QString::fromLatin1(row.caption), this);
-    caption->setObjectName(QString::fromLatin1(row.captionname));
+    screen.fitroom(line, 0, 4);
+    auto* caption = screen.caption(row.captionname, row.caption, ui::Type::text);
     caption->setBuddy(box);
-    caption->setFont(look.font(ui::Type::label));
-    caption->setMinimumWidth(qRound(row.captionwidth * look.zoom()));
+    screen.fit([&screen, caption, row] { caption->setMinimumWidth(screen.scaled(row.captionwidth)); });
     box->setObjectName(QString::fromLatin1(row.box));
     box->setToolTip(QString::fromLatin1(boxtip));
     box->setAccessibleName(QString::fromLatin1(row.caption));
-    box->setFont(look.font(ui::Type::text));
     box->setAlignment(Qt::AlignRight);
-    box->setFixedWidth(qRound(boxwidth * look.zoom()));
-    auto* lower = arrow(look, Qt::LeftArrow, row.down, row.downtip,
+    screen.fitbox(box);
+    screen.fitsize(box, {boxwidth, -1});
+    auto* lower = arrow(screen, Qt::LeftArrow, row.down, row.downtip,
                         QStringLiteral("lower the %1").arg(QLatin1String(row.spoken)), this);
-    auto* higher = arrow(look, Qt::RightArrow, row.up, row.uptip,
+    auto* higher = arrow(screen, Qt::RightArrow, row.up, row.uptip,
                          QStringLiteral("raise the %1").arg(QLatin1String(row.spoken)), this);
     for (QWidget* part : std::initializer_list<QWidget*>{caption, lower, box, higher})
         line->addWidget(part);

@@ -2,9 +2,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "ui/button.h"
+#include "ui/companion.h"
 
 #include <QLineEdit>
+#include <QWidget>
 
 namespace print {
 
@@ -26,7 +27,8 @@ class NumberBox : public QWidget {
     Q_OBJECT
 
 public:
-    NumberBox(const ui::Look& look, const NumberRow& row, QWidget* parent);
+    /// Made in the look of the screen, which is to place it.
+    NumberBox(ui::Companion& screen, const NumberRow& row);
 
     /// Shows a text, without telling of it.
     void display(const std::string& text);

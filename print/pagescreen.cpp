@@ -6,11 +6,8 @@
 #include "ui/menukeys.h"
 #include "ui/text.h"
 
-#include <QCloseEvent>
-#include <QKeyEvent>
-#include <QLabel>
 #include <QMenuBar>
-#include <QScreen>
+#include <QSignalBlocker>
 
 namespace print {
 namespace {
@@ -26,7 +23,6 @@ constexpr NumberRow fontrow{"Change Font Size", "changefontsize", "font size", "
 constexpr const char* cleartip = "clears the print screen and all print data"; // the print button has it too
 constexpr int charactersinview = 80;
 constexpr int heightinview = 620; // pixels at zoom 1
-constexpr double usable = 0.9;    // of the display's free area, at most
 
 /// Without telling of it.
 void setchecked(QCheckBox* box, bool checked)
@@ -37,50 +33,58 @@ void setchecked(QCheckBox* box, bool checked)
 
 } // namespace
 
-PageScreen::PageScreen(const ui::Look& shown, QWidget* owner)
-    : QMainWindow(owner),
-      rtbprint(new Paper(shown, this)),
-      characters(new NumberBox(shown, characterrow, this)),
-      spacing(new NumberBox(shown, spacingrow, this)),
-      font(new NumberBox(shown, fontrow, this)),
+PageScreen::PageScreen(const ui::Look& mainlook, QWidget* owner)
+    : Companion(mainlook, owner, Qt::Window),
+      rtbprint(new Paper(look, this)),
+      characters(new NumberBox(*this, characterrow)),
+      spacing(new NumberBox(*this, spacingrow)),
+      font(new NumberBox(*this, fontrow)),
       chkmult(new QCheckBox(this)),
       chkalt(new QCheckBox(this)),
-      look(shown),
       txtlines(new QLineEdit(this))
 {
     setObjectName(QStringLiteral("mprint"));
     setWindowTitle(QStringLiteral("Tonefret Chord Printing Composer - Uses simple Text (.txt) format"));
-    setPalette(look.palettefor(look.theme().surface));
+    dressparts();
+    addmenus();
+    auto* column = new QVBoxLayout;
+    column->addWidget(card(addsettings()));
+    column->addWidget(rtbprint, 1);
+    column->addLayout(addbuttons());
+    setcontent(column, 10);
+}
+
+void PageScreen::dressparts()
+{
     rtbprint->setObjectName(QStringLiteral("rtbprint"));
     rtbprint->setToolTip(QStringLiteral("print output screen - you can add titles or edit here also"));
     rtbprint->setAccessibleName(QStringLiteral("print page"));
-    addmenus();
-    auto* ground = new QWidget(this);
-    auto* column = new QVBoxLayout(ground);
-    const int room = qRound(10 * look.zoom());
-    column->setContentsMargins(room, room, room, room);
-    column->setSpacing(room);
-    auto* settings = new QHBoxLayout;
-    settings->addLayout(addnumbers());
-    settings->addLayout(addchecks());
-    settings->addStretch();
-    column->addLayout(settings);
-    column->addWidget(rtbprint, 1);
-    column->addLayout(addbuttons());
-    setCentralWidget(ground);
+    fitarea(rtbprint);
+    dresscheck(chkmult, "chkmult", "if checked: allows only 1 chord printed per line", "Only 1 chord/line?");
+    dresscheck(chkalt, "chkalt", "if checked: will show alternate fingerings as well as primary",
+               "Show Alternate Fingerings");
+    txtlines->setObjectName(QStringLiteral("txtlines"));
+    txtlines->setToolTip(QStringLiteral("Output: shows how many lines are written"));
+    txtlines->setAccessibleName(QStringLiteral("Lines Written"));
+    txtlines->setReadOnly(true);
+    txtlines->setAlignment(Qt::AlignRight);
+    fitbox(txtlines);
+    fitsize(txtlines, {60, -1});
+}
+
+void PageScreen::dresscheck(QCheckBox* check, const char* name, const char* tip, const char* spoken)
+{
+    check->setObjectName(QString::fromLatin1(name));
+    check->setToolTip(QString::fromLatin1(tip));
+    check->setAccessibleName(QString::fromLatin1(spoken));
+    fitindicator(check);
 }
 
 void PageScreen::addmenus()
 {
-    const auto addmenu = [this](const char* name, const char* caption) {
-        QMenu* menu = menuBar()->addMenu(QString::fromLatin1(caption));
-        menu->menuAction()->setObjectName(QString::fromLatin1(name));
-        return menu;
-    };
-    menuBar()->setFont(look.font(ui::Type::text));
     QMenu* file = addmenu("mnufile", "file");
-    additem(file, "mnuload", "Load Chord Text File", &PageScreen::mnuload_Click)->setShortcut(Qt::CTRL | Qt::Key_O);
-    additem(file, "mnusave", "Save Chord Text File", &PageScreen::mnusave_Click)->setShortcut(Qt::CTRL | Qt::Key_S);
+    additem(file, "mnuload", "Load Chord Text File", &PageScreen::mnuload_Click, Qt::CTRL | Qt::Key_O);
+    additem(file, "mnusave", "Save Chord Text File", &PageScreen::mnusave_Click, Qt::CTRL | Qt::Key_S);
     additem(file, "mnuexit", "Exit", &PageScreen::cmdret_Click);
     QMenu* modes = addmenu("mnuprintmain", "Print Chords");
     mnuguitar = additem(modes, "mnuguitar", "Stringed Instrument Chords - click to set", &PageScreen::mnuguitar_Click);
@@ -94,62 +98,45 @@ void PageScreen::addmenus()
     ui::addmenukeys(*menuBar());
 }
 
-QAction* PageScreen::additem(QMenu* menu, const char* name, const char* caption, Signal told) const
+QAction* PageScreen::additem(QMenu* menu, const char* name, const char* text, Signal told, QKeyCombination keys)
 {
-    QAction* action = menu->addAction(QString::fromLatin1(caption));
-    action->setObjectName(QString::fromLatin1(name));
-    connect(action, &QAction::triggered, this, told);
-    return action;
+    return Companion::additem(
+        menu, name, text, [this, told] { (this->*told)(); }, keys);
 }
 
-QBoxLayout* PageScreen::addnumbers()
+/// Numbers at the left, what can be ticked at the right, in the same rows.
+QLayout* PageScreen::addsettings()
 {
-    auto* column = new QVBoxLayout;
-    column->addWidget(characters);
-    column->addWidget(spacing);
-    auto* sizes = new QHBoxLayout;
-    sizes->addWidget(font);
-    sizes->addWidget(addbutton("cmdfonthelp", "?", "font size help", &PageScreen::cmdfonthelp_Click));
-    column->addLayout(sizes);
-    return column;
+    auto* grid = new QGridLayout;
+    grid->addWidget(characters, 0, 0);
+    grid->addWidget(spacing, 1, 0);
+    grid->addWidget(font, 2, 0);
+    grid->addWidget(addbutton("cmdfonthelp", "?", "font size help", &PageScreen::cmdfonthelp_Click), 2, 1);
+    fit([this, grid] { grid->setColumnMinimumWidth(2, scaled(edge)); });
+    grid->addLayout(addline({chkmult, caption("onechord", "Only 1 chord/line?", ui::Type::text)}), 0, 3);
+    grid->addLayout(addline({chkalt, caption("alternates", "Show Alternate Fingerings", ui::Type::text),
+                             caption("primary", "Primary = *", ui::Type::label),
+                             caption("alternate", "Alternate = +", ui::Type::label)}),
+                    1, 3);
+    grid->addLayout(addline({caption("lineswritten", "Lines Written", ui::Type::text), txtlines}), 2, 3);
+    grid->setColumnStretch(3, 1);
+    return grid;
 }
 
-QBoxLayout* PageScreen::addchecks()
-{
-    const auto line = [](QWidget* first, QWidget* second) {
-        auto* both = new QHBoxLayout;
-        both->addWidget(first);
-        both->addWidget(second);
-        both->addStretch();
-        return both;
-    };
-    const auto setcheck = [](QCheckBox* check, const char* name, const char* tip, const char* spoken) {
-        check->setObjectName(QString::fromLatin1(name));
-        check->setToolTip(QString::fromLatin1(tip));
-        check->setAccessibleName(QString::fromLatin1(spoken));
-    };
-    setcheck(chkmult, "chkmult", "if checked: allows only 1 chord printed per line", "Only 1 chord/line?");
-    setcheck(chkalt, "chkalt", "if checked: will show alternate fingerings as well as primary",
-             "Show Alternate Fingerings");
-    txtlines->setObjectName(QStringLiteral("txtlines"));
-    txtlines->setToolTip(QStringLiteral("Output: shows how many lines are written"));
-    txtlines->setAccessibleName(QStringLiteral("Lines Written"));
-    txtlines->setReadOnly(true);
-    txtlines->setFont(look.font(ui::Type::text));
-    txtlines->setFixedWidth(qRound(60 * look.zoom()));
-    auto* column = new QVBoxLayout;
-    column->addLayout(line(chkmult, addlabel("onechord", "Only 1 chord/line?")));
-    auto* alternates = line(chkalt, addlabel("alternates", "Show Alternate Fingerings"));
-    alternates->addWidget(addlabel("primary", "Primary = *"));
-    alternates->addWidget(addlabel("alternate", "Alternate = +"));
-    column->addLayout(alternates);
-    column->addLayout(line(addlabel("lineswritten", "Lines Written"), txtlines));
-    return column;
-}
-
-QBoxLayout* PageScreen::addbuttons()
+QLayout* PageScreen::addline(std::initializer_list<QWidget*> parts)
 {
     auto* line = new QHBoxLayout;
+    fitroom(line, 0, gap);
+    for (QWidget* part : parts)
+        line->addWidget(part);
+    line->addStretch();
+    return line;
+}
+
+QLayout* PageScreen::addbuttons()
+{
+    auto* line = new QHBoxLayout;
+    fitroom(line, 0, gap);
     line->addWidget(addbutton("cmdshow", "Done. Show all Print Lines",
                               "press when done to send all stored print to this screen", &PageScreen::cmdshow_Click));
     line->addWidget(addbutton("cmdclear", "Clear Print Data", cleartip, &PageScreen::cmdclear_Click));
@@ -159,22 +146,9 @@ QBoxLayout* PageScreen::addbuttons()
     return line;
 }
 
-QWidget* PageScreen::addlabel(const char* name, const char* text)
+QWidget* PageScreen::addbutton(const char* name, const char* text, const char* tip, Signal told)
 {
-    auto* label = new QLabel(QString::fromLatin1(text), this);
-    label->setObjectName(QString::fromLatin1(name));
-    label->setFont(look.font(ui::Type::label));
-    return label;
-}
-
-ui::Button* PageScreen::addbutton(const char* name, const char* caption, const char* tip, Signal told)
-{
-    auto* button = new ui::Button(look, QString::fromLatin1(caption), this);
-    button->setObjectName(QString::fromLatin1(name));
-    button->setToolTip(QString::fromLatin1(tip));
-    button->setAutoDefault(false);
-    connect(button, &QAbstractButton::clicked, this, told);
-    return button;
+    return button(name, text, tip, [this, told] { (this->*told)(); });
 }
 
 void PageScreen::display(const Page& page, const ModeMarks& marks)
@@ -190,24 +164,11 @@ void PageScreen::display(const Page& page, const ModeMarks& marks)
     txtlines->setText(ui::totext(page.txtlines));
     mnuguitar->setChecked(marks.mnuguitar);
     mnupiano->setChecked(marks.mnupiano);
-    if (isVisible())
-        return;
-    const QSize room = screen()->availableGeometry().size() * usable;
-    resize(QSize(rtbprint->widthfor(charactersinview), qRound(heightinview * look.zoom())).boundedTo(room));
 }
 
-void PageScreen::keyPressEvent(QKeyEvent* event)
+std::optional<QSize> PageScreen::openingsize() const
 {
-    if (event->key() == Qt::Key_Escape)
-        close();
-    else
-        QMainWindow::keyPressEvent(event);
-}
-
-void PageScreen::closeEvent(QCloseEvent* event)
-{
-    Q_EMIT closed();
-    event->accept();
+    return QSize(rtbprint->widthfor(charactersinview) + 2 * scaled(edge), scaled(heightinview));
 }
 
 } // namespace print

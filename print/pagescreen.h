@@ -7,19 +7,20 @@
 #include "print/page.h"
 #include "print/paper.h"
 
-#include <QAction>
 #include <QBoxLayout>
 #include <QCheckBox>
-#include <QMainWindow>
+#include <QLineEdit>
+
+#include <initializer_list>
 
 namespace print {
 
 /// The print page: the text, its settings and what can be done with it. Not modal.
-class PageScreen : public QMainWindow {
+class PageScreen : public ui::Companion {
     Q_OBJECT
 
 public:
-    PageScreen(const ui::Look& shown, QWidget* owner);
+    PageScreen(const ui::Look& mainlook, QWidget* owner);
 
     void display(const Page& page, const ModeMarks& marks);
 
@@ -41,24 +42,22 @@ Q_SIGNALS:
     void mnuhelpcomplete_Click();
     void mnuguitar_Click();
     void mnupiano_Click();
-    void closed(); ///< however it was closed
 
 protected:
-    void closeEvent(QCloseEvent* event) override;
-    void keyPressEvent(QKeyEvent* event) override;
+    std::optional<QSize> openingsize() const override;
 
 private:
     using Signal = void (PageScreen::*)();
 
+    void dressparts();
     void addmenus();
-    QAction* additem(QMenu* menu, const char* name, const char* caption, Signal told) const;
-    QBoxLayout* addnumbers();
-    QBoxLayout* addchecks();
-    QBoxLayout* addbuttons();
-    QWidget* addlabel(const char* name, const char* text);
-    ui::Button* addbutton(const char* name, const char* caption, const char* tip, Signal told);
+    QAction* additem(QMenu* menu, const char* name, const char* text, Signal told, QKeyCombination keys = {});
+    QLayout* addsettings();
+    QLayout* addline(std::initializer_list<QWidget*> parts);
+    QLayout* addbuttons();
+    QWidget* addbutton(const char* name, const char* text, const char* tip, Signal told);
+    void dresscheck(QCheckBox* check, const char* name, const char* tip, const char* spoken);
 
-    const ui::Look& look;
     QLineEdit* txtlines;
     QAction* mnuguitar = nullptr;
     QAction* mnupiano = nullptr;

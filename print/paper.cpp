@@ -55,7 +55,6 @@ std::size_t skipunits(std::string_view text, std::size_t from, int units)
 Paper::Paper(const ui::Look& paperlook, QWidget* parent) : QPlainTextEdit(parent), look(paperlook)
 {
     setLineWrapMode(NoWrap);
-    setPalette(look.palettefor(look.theme().card));
     connect(document(), &QTextDocument::contentsChange, this,
             [this](int position, int /*removed*/, int added) { tell(position, added); });
 }

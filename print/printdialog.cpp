@@ -2,8 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "print/printdialog.h"
 
-#include <QLabel>
-#include <QVBoxLayout>
+#include <QBoxLayout>
 
 namespace print {
 namespace {
@@ -18,49 +17,47 @@ constexpr NumberRow leftrow{"Left Margin (character spaces)", "leftmargin", "lef
 
 } // namespace
 
-PrintDialog::PrintDialog(const ui::Look& shown, QWidget* owner)
-    : QDialog(owner), top(new NumberBox(shown, toprow, this)), left(new NumberBox(shown, leftrow, this)), look(shown)
+PrintDialog::PrintDialog(const ui::Look& mainlook, QWidget* owner)
+    : Companion(mainlook, owner, Qt::Dialog), top(new NumberBox(*this, toprow)), left(new NumberBox(*this, leftrow))
 {
     setObjectName(QStringLiteral("printdialog"));
     setWindowTitle(QStringLiteral("tonefret print dialog box"));
     setWindowModality(Qt::ApplicationModal);
-    setPalette(look.palettefor(look.theme().surface));
-    auto* column = new QVBoxLayout(this);
-    const int room = qRound(16 * look.zoom());
-    column->setContentsMargins(room, room, room, room);
-    column->setSpacing(qRound(8 * look.zoom()));
-    column->addWidget(addlabel("settings", "Settings:", ui::Type::heading));
+    auto* column = new QVBoxLayout;
+    column->addWidget(card(addsettings()));
+    column->addWidget(card(addnotes()));
+    column->addLayout(addbuttons());
+    setcontent(column, 12);
+}
+
+QLayout* PrintDialog::addsettings()
+{
+    auto* column = new QVBoxLayout;
+    column->addWidget(caption("settings", "Settings:", ui::Type::heading));
     column->addWidget(top);
     column->addWidget(left);
-    column->addSpacing(room / 2);
-    column->addWidget(addlabel("notes", "Notes:", ui::Type::heading));
-    column->addWidget(addlabel("defaultprinter", "Prints to your default printer", ui::Type::text));
-    column->addWidget(addlabel("portrait", "Prints in \"Portait\" (long) style only", ui::Type::text));
-    column->addSpacing(room / 2);
-    auto* buttons = new QHBoxLayout;
-    buttons->addStretch();
-    auto* print = addbutton("cmdprint", "PRINT", &PrintDialog::cmdprint_Click);
-    print->setDefault(true);
-    buttons->addWidget(print);
-    buttons->addWidget(addbutton("cmdcancel", "CANCEL", &PrintDialog::cmdcancel_Click));
-    column->addLayout(buttons);
+    return column;
 }
 
-QWidget* PrintDialog::addlabel(const char* name, const char* text, ui::Type type)
+QLayout* PrintDialog::addnotes()
 {
-    auto* label = new QLabel(QString::fromLatin1(text), this);
-    label->setObjectName(QString::fromLatin1(name));
-    label->setFont(look.font(type));
-    return label;
+    auto* column = new QVBoxLayout;
+    column->addWidget(caption("notes", "Notes:", ui::Type::heading));
+    column->addWidget(caption("defaultprinter", "Prints to your default printer", ui::Type::text));
+    column->addWidget(caption("portrait", "Prints in \"Portait\" (long) style only", ui::Type::text));
+    return column;
 }
 
-QPushButton* PrintDialog::addbutton(const char* name, const char* caption, void (PrintDialog::*told)())
+QLayout* PrintDialog::addbuttons()
 {
-    auto* button = new ui::Button(look, QString::fromLatin1(caption), this);
-    button->setObjectName(QString::fromLatin1(name));
-    button->setAutoDefault(false);
-    connect(button, &QAbstractButton::clicked, this, told);
-    return button;
+    auto* row = new QHBoxLayout;
+    fitroom(row, 0, gap);
+    row->addStretch(1);
+    auto* cmdprint = button("cmdprint", "PRINT", "", [this] { Q_EMIT cmdprint_Click(); });
+    setenter(cmdprint);
+    row->addWidget(cmdprint);
+    row->addWidget(button("cmdcancel", "CANCEL", "", [this] { Q_EMIT cmdcancel_Click(); }));
+    return row;
 }
 
 void PrintDialog::display(const MarginBoxes& boxes) const

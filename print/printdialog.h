@@ -4,18 +4,16 @@
 
 #include "print/numberbox.h"
 #include "print/page.h"
-
-#include <QDialog>
-#include <QPushButton>
+#include "ui/companion.h"
 
 namespace print {
 
 /// Asks for the margins before the page is printed. Modal; its close box is its button CANCEL.
-class PrintDialog : public QDialog {
+class PrintDialog : public ui::Companion {
     Q_OBJECT
 
 public:
-    PrintDialog(const ui::Look& shown, QWidget* owner);
+    PrintDialog(const ui::Look& mainlook, QWidget* owner);
 
     void display(const MarginBoxes& boxes) const;
 
@@ -27,10 +25,9 @@ Q_SIGNALS:
     void cmdcancel_Click();
 
 private:
-    QWidget* addlabel(const char* name, const char* text, ui::Type type);
-    QPushButton* addbutton(const char* name, const char* caption, void (PrintDialog::*told)());
-
-    const ui::Look& look;
+    QLayout* addsettings();
+    QLayout* addnotes();
+    QLayout* addbuttons();
 };
 
 } // namespace print

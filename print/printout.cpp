@@ -40,7 +40,7 @@ std::string withouttabs(std::string_view line)
 /// Lines as they come out on paper.
 class Pages {
 public:
-    explicit Pages(PaperRoom paper)
+    explicit Pages(ui::PaperRoom paper)
         : characters(static_cast<std::size_t>(std::max(paper.characters, 1))),
           lines(static_cast<std::size_t>(std::max(paper.lines, 1)))
     {
@@ -101,7 +101,7 @@ std::string withmargins(std::string_view text, int top, int left)
     return std::string(static_cast<std::size_t>(top), '\n') + printed;
 }
 
-Printout layoutpages(std::string_view text, PaperRoom room)
+Printout layoutpages(std::string_view text, ui::PaperRoom room)
 {
     Pages pages(room);
     while (!text.empty())

@@ -2,17 +2,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "ui/desktop.h"
+
 #include <string>
 #include <string_view>
 #include <vector>
 
 namespace print {
-
-/// Room on a page of paper, of characters of one size.
-struct PaperRoom {
-    int characters; ///< side by side
-    int lines;      ///< one below the other
-};
 
 using PrintedPage = std::vector<std::string>; ///< lines from the top
 
@@ -28,6 +24,6 @@ std::string withmargins(std::string_view text, int top, int left);
 
 /// Breaks a text into pages between its lines. A line that fits is never broken; blanks that do not fit at its end are
 /// left out. Tabs go to every eighth character. The line feed at the very end begins no line.
-Printout layoutpages(std::string_view text, PaperRoom room);
+Printout layoutpages(std::string_view text, ui::PaperRoom room);
 
 } // namespace print

@@ -2,18 +2,16 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "ui/look.h"
-
-#include <QDialog>
+#include "ui/companion.h"
 
 namespace print {
 
 /// Asks once what snapshots are to be read from. Modal; closed without a button it chooses nothing.
-class QuestionScreen : public QDialog {
+class QuestionScreen : public ui::Companion {
     Q_OBJECT
 
 public:
-    QuestionScreen(const ui::Look& look, QWidget* owner);
+    QuestionScreen(const ui::Look& mainlook, QWidget* owner);
 
 Q_SIGNALS:
     void cmdguitar_Click();

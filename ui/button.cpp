@@ -3,7 +3,6 @@
 #include "ui/button.h"
 
 #include "ui/marks.h"
-#include "ui/paint.h"
 
 #include <QFontMetricsF>
 #include <QPainter>
@@ -94,13 +93,12 @@ void Button::paintEvent(QPaintEvent* /*event*/)
     const double margin = 2 * look.zoom();
     painttext(painter, look, QRectF(rect()).adjusted(margin, 0, -margin, 0), caption(),
               look.font(font().bold() ? Type::strong : Type::text), ink());
-    if (hasFocus() && ring)
-        paintfocus(painter, look, rect(), corner);
+    ring.paint(painter, look, *this, rect(), corner);
 }
 
 void Button::focusInEvent(QFocusEvent* event)
 {
-    ring = bykeyboard(*event, ring);
+    ring.comes(*event);
     QPushButton::focusInEvent(event);
 }
 

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "ui/look.h"
+#include "ui/paint.h"
 
 #include <QPushButton>
 
@@ -31,6 +31,9 @@ public:
     /// Heavier type, readable as `font().bold()` too.
     void setbold(bool bold);
 
+    /// Whether the keyboard brought the focus here.
+    bool usedbykeys() const { return ring.bykeys(); }
+
     QSize sizeHint() const override;
 
 protected:
@@ -49,7 +52,7 @@ private:
     Qt::ArrowType arrow;
     bool chosenface = false;
     QColor back;
-    bool ring = false; ///< the keyboard brought the focus here
+    FocusRing ring;
 };
 
 } // namespace ui

@@ -47,12 +47,15 @@ void Canvas::move(const Placed& placed)
 
 void Canvas::layoutcontrols()
 {
+    const double before = shown.zoom();
     shown.setzoom(zoomin(size()));
     const QSize used = sizeat(shown.zoom());
     origin = QPoint(std::max(0, (width() - used.width()) / 2), std::max(0, (height() - used.height()) / 2));
     for (const Placed& placed : controls)
         move(placed);
     update();
+    if (shown.zoom() != before)
+        Q_EMIT zoomed();
 }
 
 void Canvas::resizeEvent(QResizeEvent* event)

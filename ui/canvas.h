@@ -38,6 +38,9 @@ public:
     static constexpr double smallestzoom = 0.75;
     static constexpr double largestzoom = 4;
 
+Q_SIGNALS:
+    void zoomed(); ///< the zoom has changed
+
 protected:
     void resizeEvent(QResizeEvent* event) override;
     void paintEvent(QPaintEvent* event) override;

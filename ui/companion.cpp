@@ -2,145 +2,123 @@
 // SPDX-License-Identifier: MIT
 #include "ui/companion.h"
 
-#include "ui/paint.h"
+#include "ui/partstyle.h"
 
-#include <QApplication>
+#include <QAccessibleWidget>
 #include <QCloseEvent>
+#include <QGuiApplication>
 #include <QKeyEvent>
 #include <QMenuBar>
-#include <QPainter>
-#include <QProxyStyle>
 #include <QScreen>
 
 #include <algorithm>
+#include <utility>
 
 namespace ui {
 namespace {
 
 constexpr double usable = 0.92; ///< of the display's free area, at most; the rest is the window's frame
-constexpr double smallestzoom = 0.75;
-constexpr double indicator = 14; ///< side of a check mark's box, in pixels at zoom 1
+constexpr double smallestzoom = 0.5;
+constexpr double leaststep = 0.98; ///< by which a screen that does not fit is made smaller
 
-/// The desktop's style, with check boxes and option buttons that grow with the text beside them.
-class IndicatorStyle : public QProxyStyle {
-public:
-    IndicatorStyle(const Look& shownlook, QObject* owner) : QProxyStyle(QApplication::style()->name()), look(shownlook)
-    {
-        setParent(owner);
-    }
+double shareof(QSize room, QSize wanted)
+{
+    return std::min(static_cast<double>(room.width()) / wanted.width(),
+                    static_cast<double>(room.height()) / wanted.height());
+}
 
-    int pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const override
-    {
-        switch (metric) {
-        case PM_IndicatorWidth:
-        case PM_IndicatorHeight:
-        case PM_ExclusiveIndicatorWidth:
-        case PM_ExclusiveIndicatorHeight:
-            return qRound(indicator * look.zoom());
-        default:
-            return QProxyStyle::pixelMetric(metric, option, widget);
-        }
-    }
-
-private:
-    const Look& look;
-};
+/// A dialog is read out as one when it opens.
+QAccessibleInterface* dialoginterface(const QString& /*type*/, QObject* object)
+{
+    auto* companion = qobject_cast<Companion*>(object);
+    if (!companion || companion->windowType() != Qt::Dialog)
+        return nullptr;
+    return new QAccessibleWidget(companion, QAccessible::Dialog);
+}
 
 } // namespace
 
-void Card::paintEvent(QPaintEvent* /*event*/)
+Companion::Companion(const Look& mainlook, QWidget* owner, Qt::WindowType kind)
+    : QMainWindow(owner, kind), look(mainlook), followed(mainlook), partstyle(new PartStyle(look, this))
 {
-    QPainter painter(this);
-    paintbox(painter, look, rect(), look.theme().card, look.theme().hairline, 7);
+    QAccessible::installFactory(dialoginterface);
+    fit([this] {
+        look.followpalette(QGuiApplication::palette());
+        setPalette(look.palettefor(look.theme().surface));
+    });
 }
 
-Companion::Companion(const Look& mainlook, QWidget* owner) : QMainWindow(owner), look(mainlook), followed(mainlook) {}
-
-void Companion::fit(std::function<void()> change)
+void Companion::fit(Handler change)
 {
     change();
     changes.push_back(std::move(change));
 }
 
-void Companion::fitfont(QWidget* control, Type type)
-{
-    fit([this, control, type] { control->setFont(look.font(type)); });
-}
-
-void Companion::fitindicator(QAbstractButton* control)
-{
-    fitfont(control, Type::text);
-    control->setStyle(new IndicatorStyle(look, control));
-}
-
-void Companion::fitsize(QWidget* control, QSize atone)
-{
-    fit([this, control, atone] {
-        if (atone.width() >= 0)
-            control->setFixedWidth(scaled(atone.width()));
-        if (atone.height() >= 0)
-            control->setFixedHeight(scaled(atone.height()));
-    });
-}
-
-void Companion::fitroom(QLayout* layout, int marginatone, int gapatone)
-{
-    fit([this, layout, marginatone, gapatone] {
-        const int margin = scaled(marginatone);
-        layout->setContentsMargins(margin, margin, margin, margin);
-        layout->setSpacing(scaled(gapatone));
-    });
-}
-
-QLabel* Companion::caption(const char* name, const char* text, Type type, int widthatone)
-{
-    auto* label = new QLabel(QString::fromUtf8(text), this);
-    label->setObjectName(QString::fromUtf8(name));
-    label->setTextFormat(Qt::PlainText);
-    fitfont(label, type);
-    if (widthatone == 0)
-        return label;
-    label->setWordWrap(true);
-    fit([this, label, widthatone] {
-        const int width = scaled(widthatone);
-        label->setMinimumSize(0, 0); // a height for a width is never below it
-        label->setFixedSize(width, label->heightForWidth(width));
-    });
-    return label;
-}
-
 void Companion::applyzoom(double zoom)
 {
     look.setzoom(zoom);
-    for (const auto& change : changes)
+    for (const Handler& change : changes)
         change();
     for (QWidget* each : findChildren<QWidget*>())
         each->updateGeometry(); // what they want is kept from the zoom before
-    setFixedSize(centralWidget()->sizeHint() + QSize(0, menuheight()));
 }
 
-int Companion::menuheight() const
+QSize Companion::withmenus(QSize content) const
 {
-    const auto* bar = findChild<QMenuBar*>();
-    return bar ? bar->sizeHint().height() : 0;
+    const auto* bar = findChild<QMenuBar*>(QString(), Qt::FindDirectChildrenOnly);
+    return content + QSize(0, bar ? bar->sizeHint().height() : 0);
+}
+
+QSize Companion::smallest() const
+{
+    return withmenus(openingsize() ? centralWidget()->minimumSizeHint() : centralWidget()->sizeHint());
+}
+
+/// Texts that break their lines do not shrink evenly, so once may not be enough.
+void Companion::shrinkinto(QSize room)
+{
+    while (look.zoom() > smallestzoom && shareof(room, smallest()) < 1)
+        applyzoom(std::max(smallestzoom, look.zoom() * std::min(leaststep, shareof(room, smallest()))));
+}
+
+void Companion::takesize(double zoombefore, QSize room)
+{
+    const std::optional<QSize> opening = openingsize();
+    if (!opening)
+        setFixedSize(smallest());
+    else if (!isMaximized() && !isFullScreen())
+        takefreesize(*opening, zoombefore, room);
+}
+
+/// What a person has given the screen is kept in proportion to the zoom, also where the display had no room for it
+/// meanwhile.
+void Companion::takefreesize(QSize opening, double zoombefore, QSize room)
+{
+    if (!opened)
+        freesize = QSizeF(opening) / look.zoom();
+    else if (size() != given)
+        freesize = QSizeF(size()) / zoombefore;
+    given = (freesize * look.zoom()).toSize().expandedTo(smallest()).boundedTo(room);
+    resize(given);
 }
 
 void Companion::dress()
 {
-    dressedfor = followed.zoom();
-    look.followpalette(QGuiApplication::palette());
-    setPalette(look.palettefor(look.theme().surface));
-    applyzoom(dressedfor);
+    const double before = look.zoom();
     const QSize room = screen()->availableGeometry().size() * usable;
-    const double share =
-        std::min(static_cast<double>(room.width()) / width(), static_cast<double>(room.height()) / height());
-    if (share < 1)
-        applyzoom(std::max(smallestzoom, dressedfor * share));
+    applyzoom(followed.zoom());
+    shrinkinto(room);
+    takesize(before, room);
+    if (!opened)
+        centre();
+    keepondisplay();
+    opened = true;
+    dressed();
 }
 
-void Companion::followzoom()
+void Companion::followlook()
 {
-    if (isVisible() && dressedfor != followed.zoom())
+    if (isVisible())
         dress();
 }
 
@@ -152,24 +130,36 @@ void Companion::centre()
     move(qRound(left), qRound(top));
 }
 
+/// A screen that has grown may not reach beyond the display's edges.
+void Companion::keepondisplay()
+{
+    const QRect room = screen()->availableGeometry();
+    const QRect taken = frameGeometry();
+    const int left = std::max(room.left(), std::min(taken.left(), room.right() + 1 - taken.width()));
+    const int top = std::max(room.top(), std::min(taken.top(), room.bottom() + 1 - taken.height()));
+    if (QPoint(left, top) != taken.topLeft())
+        move(left, top);
+}
+
 void Companion::showEvent(QShowEvent* event)
 {
     QMainWindow::showEvent(event);
+    if (event->spontaneous())
+        return; // back from the desktop's edge, where it stood
+    opened = false;
     dress();
-    centre();
-}
-
-void Companion::changeEvent(QEvent* event)
-{
-    QMainWindow::changeEvent(event);
-    if (event->type() == QEvent::ApplicationPaletteChange && isVisible())
-        dress();
 }
 
 void Companion::keyPressEvent(QKeyEvent* event)
 {
+    const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    const auto* reached = qobject_cast<Button*>(focusWidget());
     if (event->key() == Qt::Key_Escape)
         close();
+    else if (enter && reached && reached->usedbykeys())
+        static_cast<Button*>(focusWidget())->click();
+    else if (enter && pressedbyenter)
+        pressedbyenter->click();
     else
         QMainWindow::keyPressEvent(event);
 }

@@ -34,6 +34,7 @@ struct Theme {
     QColor surface;  ///< behind everything
     QColor card;     ///< what groups stand on
     QColor hairline; ///< edges of cards, buttons and readouts
+    QColor outline;  ///< edges of what is typed into or ticked
     QColor text;
     QColor label;   ///< quieter text: captions
     QColor button;  ///< face of a button, a selector, a readout

@@ -2,8 +2,6 @@
 // SPDX-License-Identifier: MIT
 #include "ui/notebutton.h"
 
-#include "ui/paint.h"
-
 #include <QKeyEvent>
 
 namespace ui {
@@ -27,7 +25,7 @@ void NoteButton::display(const QString& caption, core::Colour colour)
 
 void NoteButton::focusInEvent(QFocusEvent* event)
 {
-    ring = bykeyboard(*event, ring);
+    ring.comes(*event);
     QAbstractButton::focusInEvent(event);
 }
 

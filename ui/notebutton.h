@@ -3,7 +3,7 @@
 #pragma once
 
 #include "core/display.h"
-#include "ui/look.h"
+#include "ui/paint.h"
 
 #include <QAbstractButton>
 
@@ -25,14 +25,9 @@ protected:
     void focusInEvent(QFocusEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
 
-    /// Whether the keyboard acts here and came by a key.
-    bool showsfocus() const { return hasFocus() && ring; }
-
     const Look& look;
     core::Colour back;
-
-private:
-    bool ring = false;
+    FocusRing ring;
 };
 
 } // namespace ui

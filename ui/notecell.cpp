@@ -3,7 +3,6 @@
 #include "ui/notecell.h"
 
 #include "ui/marks.h"
-#include "ui/paint.h"
 
 #include <QPainter>
 
@@ -20,8 +19,7 @@ void NoteCell::paintEvent(QPaintEvent* /*event*/)
     const QRectF room = pill.adjusted(gap, 0, -gap, 0);
     painttext(painter, look, room, text(),
               fitted(look, look.font(marked ? Type::mark : Type::note), widestname(), room.width()), markink());
-    if (showsfocus())
-        paintfocus(painter, look, pill, pill.height() / 2 / look.zoom());
+    ring.paint(painter, look, *this, pill, pill.height() / 2 / look.zoom());
 }
 
 } // namespace ui

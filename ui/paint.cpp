@@ -58,13 +58,20 @@ void paintfocus(QPainter& painter, const Look& look, const QRectF& box, double c
     painter.drawRoundedRect(box.adjusted(half, half, -half, -half), corner * look.zoom(), corner * look.zoom());
 }
 
-bool bykeyboard(const QFocusEvent& event, bool before)
+void FocusRing::comes(const QFocusEvent& event)
 {
     if (event.reason() == Qt::ActiveWindowFocusReason || event.reason() == Qt::PopupFocusReason ||
         event.reason() == Qt::MenuBarFocusReason)
-        return before;
-    return event.reason() == Qt::TabFocusReason || event.reason() == Qt::BacktabFocusReason ||
-           event.reason() == Qt::ShortcutFocusReason;
+        return;
+    shown = event.reason() == Qt::TabFocusReason || event.reason() == Qt::BacktabFocusReason ||
+            event.reason() == Qt::ShortcutFocusReason;
+}
+
+void FocusRing::paint(QPainter& painter, const Look& look, const QWidget& control, const QRectF& box,
+                      double corner) const
+{
+    if (shown && control.hasFocus())
+        paintfocus(painter, look, box, corner);
 }
 
 void paintarrow(QPainter& painter, const Look& look, const QRectF& box, Qt::ArrowType direction, const QColor& colour)

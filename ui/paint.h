@@ -8,6 +8,7 @@
 #include <QFocusEvent>
 #include <QPainter>
 #include <QString>
+#include <QWidget>
 
 namespace ui {
 
@@ -32,9 +33,20 @@ void painttext(QPainter& painter, const Look& look, const QRectF& box, const QSt
 /// The ring that shows where the keyboard acts, just inside `box`.
 void paintfocus(QPainter& painter, const Look& look, const QRectF& box, double corner);
 
-/// Whether a control got the focus by a key, so that it shows the ring. What comes back from a menu, a list or another
-/// window is as it was `before`.
-bool bykeyboard(const QFocusEvent& event, bool before);
+/// What a control knows of its ring: the ring comes by a key and goes by a click. What comes back from a menu, a list
+/// or another window leaves it as it was.
+class FocusRing {
+public:
+    /// To be told of each time that the control gets the focus.
+    void comes(const QFocusEvent& event);
+    /// Whether a key brought the focus here.
+    bool bykeys() const { return shown; }
+    /// Paints the ring just inside `box`, if `control` has the focus by a key.
+    void paint(QPainter& painter, const Look& look, const QWidget& control, const QRectF& box, double corner) const;
+
+private:
+    bool shown = false;
+};
 
 /// A solid triangle that points left or right, centred in `box`.
 void paintarrow(QPainter& painter, const Look& look, const QRectF& box, Qt::ArrowType direction, const QColor& colour);

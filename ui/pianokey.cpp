@@ -3,7 +3,6 @@
 #include "ui/pianokey.h"
 
 #include "ui/marks.h"
-#include "ui/paint.h"
 
 #include <QLinearGradient>
 #include <QPainter>
@@ -36,8 +35,7 @@ void PianoKey::paintEvent(QPaintEvent* /*event*/)
     QPainter painter(this);
     paintbody(painter);
     paintcaption(painter);
-    if (showsfocus())
-        paintfocus(painter, look, rect(), kind == Kind::white ? 4 : 3);
+    ring.paint(painter, look, *this, rect(), kind == Kind::white ? 4 : 3);
 }
 
 void PianoKey::paintbody(QPainter& painter) const

@@ -19,7 +19,7 @@ public:
 
     /// The screen over which the others stand and which is left last.
     void setmain(QWidget* screen) { mainscreen = screen; }
-    /// How a screen is made; it is made anew each time it is opened, to suit the zoom of that moment.
+    /// How a screen is made; it is made anew each time it is opened.
     void add(Screen screen, Maker maker) { makers[screen] = std::move(maker); }
 
     /// Where files are picked as long as none was; the current folder unless this is called.

@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: MIT
 #include "ui/selectorbox.h"
 
-#include "ui/paint.h"
 #include "ui/selectoraccess.h"
 
 #include <QAbstractItemView>
@@ -118,8 +117,7 @@ void SelectorBox::paintEvent(QPaintEvent* /*event*/)
     painttext(painter, look, QRectF(rect()).adjusted(margin, 0, -arrowroom, 0), shown.trimmed(), look.font(Type::text),
               theme.text, Qt::AlignLeft | Qt::AlignVCenter);
     paintchevron(painter, look, QPointF(width() - arrowroom / 2, height() / 2.0), theme.label);
-    if (hasFocus() && ring)
-        paintfocus(painter, look, rect(), 5);
+    ring.paint(painter, look, *this, rect(), 5);
 }
 
 void SelectorBox::keyPressEvent(QKeyEvent* event)
@@ -158,7 +156,7 @@ int SelectorBox::sought(const QString& typed, int current)
 
 void SelectorBox::focusInEvent(QFocusEvent* event)
 {
-    ring = bykeyboard(*event, ring);
+    ring.comes(*event);
     QComboBox::focusInEvent(event);
 }
 

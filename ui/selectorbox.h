@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "ui/look.h"
+#include "ui/paint.h"
 
 #include <QComboBox>
 #include <QElapsedTimer>
@@ -21,7 +21,7 @@ public:
     void display(const QStringList& items, int index, const QString& text);
     QString shownText() const { return shown; }
     /// Whether the keyboard brought the focus here.
-    bool usedbykeys() const { return ring; }
+    bool usedbykeys() const { return ring.bykeys(); }
     void showPopup() override;
 
 Q_SIGNALS:
@@ -47,7 +47,7 @@ private:
     int toldof = -1; ///< the item whose change was told of, until its activation comes or cannot come any more
     QString typedsofar;
     QElapsedTimer sincetyping;
-    bool ring = false; ///< the keyboard brought the focus here
+    FocusRing ring;
 };
 
 } // namespace ui

@@ -42,7 +42,7 @@ INSTANTIATE_TEST_SUITE_P(Texts, WithMargins, testing::Values(
 struct Laid {
     const char* name;
     const char* text;
-    print::PaperRoom room;
+    ui::PaperRoom room;
     Pages pages;
     int toolong;
 };

@@ -70,6 +70,8 @@ TEST_P(Contrast, texts_areLegibleOnEveryGround)
         EXPECT_GE(contrast(theme.label, ground), fortext) << ground.name().toStdString();
         EXPECT_GE(contrast(theme.accent, ground), forshapes) << ground.name().toStdString();
     }
+    for (const QColor& ground : {theme.surface, theme.card, theme.button})
+        EXPECT_GE(contrast(theme.outline, ground), forshapes) << ground.name().toStdString();
     EXPECT_GE(contrast(theme.pressedtext, theme.pressed), fortext);
     EXPECT_GE(contrast(theme.accenttext, theme.accent), fortext);
 }

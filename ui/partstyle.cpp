@@ -1,0 +1,137 @@
+// SPDX-FileCopyrightText: 2026 The tonefret developers
+// SPDX-License-Identifier: MIT
+#include "ui/partstyle.h"
+
+#include "ui/paint.h"
+
+#include <QApplication>
+#include <QPainterPath>
+#include <QRadioButton>
+#include <QStyleOption>
+
+namespace ui {
+namespace {
+
+constexpr double indicator = 14; ///< side of a check mark's box, in pixels at zoom 1
+constexpr double boxcorner = 5;
+constexpr double tickcorner = 3;
+constexpr int areaedge = 2; ///< around an area for text, in pixels at every zoom: room for the ring
+
+void painttick(QPainter& painter, const QRectF& box, const QColor& colour)
+{
+    const auto at = [&box](double x, double y) { return box.topLeft() + QPointF(x * box.width(), y * box.height()); };
+    QPainterPath path(at(0.25, 0.52));
+    path.lineTo(at(0.43, 0.7));
+    path.lineTo(at(0.76, 0.32));
+    painter.strokePath(path, QPen(colour, box.width() / 8, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+}
+
+void paintdot(QPainter& painter, const QRectF& box, const QColor& colour)
+{
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(colour);
+    painter.drawEllipse(box.center(), box.width() / 5, box.height() / 5);
+}
+
+} // namespace
+
+PartStyle::PartStyle(const Look& shownlook, QObject* owner)
+    : QProxyStyle(QApplication::style()->name()), look(shownlook)
+{
+    setParent(owner);
+}
+
+int PartStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const
+{
+    switch (metric) {
+    case PM_IndicatorWidth:
+    case PM_IndicatorHeight:
+    case PM_ExclusiveIndicatorWidth:
+    case PM_ExclusiveIndicatorHeight:
+        return qRound(indicator * look.zoom());
+    case PM_DefaultFrameWidth:
+        return areaedge;
+    default:
+        return QProxyStyle::pixelMetric(metric, option, widget);
+    }
+}
+
+/// The ring is around the mark, so that it crosses no text.
+QRect PartStyle::subElementRect(SubElement element, const QStyleOption* option, const QWidget* widget) const
+{
+    if (element == SE_CheckBoxFocusRect)
+        return subElementRect(SE_CheckBoxIndicator, option, widget);
+    if (element == SE_RadioButtonFocusRect)
+        return subElementRect(SE_RadioButtonIndicator, option, widget);
+    return QProxyStyle::subElementRect(element, option, widget);
+}
+
+QSize PartStyle::sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& contents,
+                                  const QWidget* widget) const
+{
+    if (type != CT_MenuBarItem)
+        return QProxyStyle::sizeFromContents(type, option, contents, widget);
+    const int height = option->fontMetrics.height();
+    return contents + QSize(height * 6 / 5, height / 2);
+}
+
+void PartStyle::paintmark(QPainter& painter, const QStyleOption& option, bool round) const
+{
+    const Theme& theme = look.theme();
+    const bool on = option.state.testFlag(State_On);
+    const bool hovered = option.state.testFlag(State_MouseOver) && option.state.testFlag(State_Enabled);
+    const QRectF box(option.rect);
+    const double corner = round ? box.height() / 2 / look.zoom() : tickcorner;
+    paintbox(painter, look, box,
+             on        ? theme.pressed
+             : hovered ? theme.hover
+                       : theme.button,
+             on ? theme.pressed : theme.outline, corner);
+    if (on)
+        (round ? paintdot : painttick)(painter, box, theme.pressedtext);
+}
+
+void PartStyle::paintedge(QPainter& painter, const QStyleOption& option) const
+{
+    const bool focused = option.state.testFlag(State_HasFocus);
+    const double line = focused ? areaedge : 1;
+    painter.setRenderHint(QPainter::Antialiasing, false);
+    painter.setPen(
+        QPen(focused ? look.theme().accent : look.theme().hairline, line, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
+    painter.setBrush(Qt::NoBrush);
+    painter.drawRect(QRectF(option.rect).adjusted(line / 2, line / 2, -line / 2, -line / 2));
+}
+
+void PartStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
+                              const QWidget* widget) const
+{
+    const bool round = qobject_cast<const QRadioButton*>(widget) != nullptr;
+    const QRectF box(option->rect);
+    switch (element) {
+    case PE_IndicatorCheckBox:
+    case PE_IndicatorRadioButton:
+        return paintmark(*painter, *option, round);
+    case PE_FrameFocusRect:
+        if (option->state.testFlag(State_KeyboardFocusChange))
+            paintfocus(*painter, look, box, round ? box.height() / 2 / look.zoom() : tickcorner);
+        return;
+    case PE_PanelLineEdit:
+        paintbox(*painter, look, box, option->palette.color(QPalette::Base), look.theme().outline, boxcorner);
+        if (option->state.testFlag(State_HasFocus))
+            paintfocus(*painter, look, box, boxcorner);
+        return;
+    default:
+        QProxyStyle::drawPrimitive(element, option, painter, widget);
+    }
+}
+
+void PartStyle::drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
+                            const QWidget* widget) const
+{
+    if (element == CE_ShapedFrame)
+        paintedge(*painter, *option);
+    else
+        QProxyStyle::drawControl(element, option, painter, widget);
+}
+
+} // namespace ui

@@ -1,0 +1,34 @@
+// SPDX-FileCopyrightText: 2026 The tonefret developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "ui/look.h"
+
+#include <QProxyStyle>
+
+namespace ui {
+
+/// The desktop's style for the platform's own controls, with edges, marks and the ring of the keyboard in the program's
+/// look: check boxes and option buttons that grow with the text beside them, boxes and areas for text, and menu bars
+/// whose titles stand apart as their type is large.
+class PartStyle : public QProxyStyle {
+public:
+    PartStyle(const Look& shownlook, QObject* owner);
+
+    int pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const override;
+    QRect subElementRect(SubElement element, const QStyleOption* option, const QWidget* widget) const override;
+    QSize sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& contents,
+                           const QWidget* widget) const override;
+    void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
+                       const QWidget* widget) const override;
+    void drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
+                     const QWidget* widget) const override;
+
+private:
+    void paintmark(QPainter& painter, const QStyleOption& option, bool round) const;
+    void paintedge(QPainter& painter, const QStyleOption& option) const;
+
+    const Look& look;
+};
+
+} // namespace ui
