@@ -3,20 +3,14 @@
 #include "core/textcode.h"
 #include "custom/datafile.h"
 #include "custom/settings.h"
-
-#include <cstdint>
-#include <cstdlib>
+#include "fuzz/fuzz.h"
 
 // Reads any bytes as the program reads a data file. A fault is an abort: no text may crash the reader, what it keeps is
 // whole, and what it read and wrote it reads again as the same.
 
 namespace {
 
-void expect(bool holds)
-{
-    if (!holds)
-        std::abort();
-}
+using fuzz::expect;
 
 bool same(const custom::CustomTable& a, const custom::CustomTable& b)
 {
@@ -51,7 +45,7 @@ void expectagain(custom::Unpacked read)
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t size)
 {
-    const std::string text = core::decode({reinterpret_cast<const char*>(bytes), size});
+    const std::string text = core::decode(fuzz::text(bytes, size));
     custom::Unpacked read = custom::unpack(text);
     expect((read.reading == custom::Reading::foreign) == !custom::issigned(text));
     expectwhole(read);

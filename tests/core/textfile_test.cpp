@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "core/textfile.h"
 #include "tests/support/directory.h"
+#include "tests/support/fulldisk.h"
+#include "tests/support/ordinaryuser.h"
 
 #include <gtest/gtest.h>
 
@@ -10,7 +12,6 @@
 #include <csignal>
 #include <random>
 
-#include <sys/resource.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -146,35 +147,13 @@ TEST_F(TextFile, leftoverOfAKilledProcess_isNoHindrance)
     EXPECT_EQ(directory.read("file.new-1"), "half");
 }
 
-/// No file can grow beyond some bytes, as on a disk that is full.
-class FullDisk {
-public:
-    explicit FullDisk(rlim_t bytes)
-    {
-        ::getrlimit(RLIMIT_FSIZE, &former);
-        const rlimit small{bytes, former.rlim_max};
-        ::setrlimit(RLIMIT_FSIZE, &small);
-    }
-    ~FullDisk()
-    {
-        ::setrlimit(RLIMIT_FSIZE, &former);
-        std::signal(SIGXFSZ, told); // NOLINT(cert-err33-c): it was taken before
-    }
-    FullDisk(const FullDisk&) = delete;
-    FullDisk& operator=(const FullDisk&) = delete;
-
-private:
-    rlimit former{};
-    void (*told)(int) = std::signal(SIGXFSZ, SIG_IGN);
-};
-
 TEST_F(TextFile, fullDisk_leavesTheOldFileWhole)
 {
     const std::string old(3000, 'o');
     const std::string fresh(5000, 'n');
     directory.write("file", old);
     {
-        const FullDisk disk(4096);
+        const tests::FullDisk disk(4096);
         EXPECT_EQ(replacetext("file", fresh), std::errc::file_too_large);
         EXPECT_EQ(createtext("other", fresh), std::errc::file_too_large);
         EXPECT_EQ(directory.names(), "file");
@@ -185,31 +164,16 @@ TEST_F(TextFile, fullDisk_leavesTheOldFileWhole)
     EXPECT_EQ(directory.read("file"), fresh);
 }
 
-/// Runs `act` in a process of its own that has no more rights than any user; returns whether it gave true.
-template <typename Act>
-bool asordinaryuser(const Act& act)
-{
-    const pid_t child = ::fork();
-    if (child == 0) {
-        constexpr uid_t nobody = 65534;
-        if (::geteuid() == 0 && (::setgid(nobody) != 0 || ::setuid(nobody) != 0))
-            ::_exit(2);
-        ::_exit(act() ? 0 : 1);
-    }
-    int status = 0;
-    ::waitpid(child, &status, 0);
-    return WIFEXITED(status) && WEXITSTATUS(status) == 0;
-}
-
 TEST_F(TextFile, readOnlyFolder_leavesTheOldFileWhole)
 {
     directory.write("file", "old");
     fs::permissions("file", fs::perms{0666});
     fs::permissions(directory.path, fs::perms{0555});
-    EXPECT_TRUE(asordinaryuser([] {
-        return replacetext("file", "new") == std::errc::permission_denied &&
-               createtext("other", "new") == std::errc::permission_denied;
-    }));
+    {
+        const tests::OrdinaryUser user;
+        EXPECT_EQ(replacetext("file", "new"), std::errc::permission_denied);
+        EXPECT_EQ(createtext("other", "new"), std::errc::permission_denied);
+    }
     EXPECT_EQ(directory.names(), "file");
     EXPECT_EQ(directory.read("file"), "old");
 }
@@ -219,13 +183,42 @@ TEST_F(TextFile, protectedFile_isNeitherReadNorReplaced)
     directory.write("file", "old");
     fs::permissions("file", fs::perms::none);
     fs::permissions(directory.path, fs::perms{0777});
-    EXPECT_TRUE(asordinaryuser([] {
-        const core::FileText read = readtext("file");
-        return read.failure == std::errc::permission_denied && !read.missing() &&
-               replacetext("file", "new") == std::errc::permission_denied;
-    }));
+    {
+        const tests::OrdinaryUser user;
+        EXPECT_EQ(readtext("file").failure, std::errc::permission_denied);
+        EXPECT_FALSE(readtext("file").missing());
+        EXPECT_EQ(replacetext("file", "new"), std::errc::permission_denied);
+    }
     EXPECT_EQ(directory.names(), "file");
     fs::permissions("file", fs::perms{0600});
+    EXPECT_EQ(directory.read("file"), "old");
+}
+
+TEST_F(TextFile, folderThatCannotBeListed_takesFiles)
+{
+    fs::permissions(directory.path, fs::perms{0333});
+    {
+        const tests::OrdinaryUser user;
+        EXPECT_FALSE(replacetext("file", "new"));
+        EXPECT_FALSE(createtext("other", "new"));
+    }
+    fs::permissions(directory.path, fs::perms::owner_all);
+    EXPECT_EQ(directory.read("file"), "new");
+    EXPECT_EQ(directory.names(), "file other");
+}
+
+TEST_F(TextFile, somebodyElsesFile_staysWhereOnlyItsOwnerMayTakeItsName)
+{
+    if (!tests::OrdinaryUser::haveothers())
+        GTEST_SKIP() << "only root can make somebody else's file";
+    directory.write("file", "old");
+    fs::permissions("file", fs::perms{0666});
+    fs::permissions(directory.path, fs::perms{01777});
+    {
+        const tests::OrdinaryUser user;
+        EXPECT_EQ(replacetext("file", "new"), std::errc::operation_not_permitted);
+    }
+    EXPECT_EQ(directory.names(), "file");
     EXPECT_EQ(directory.read("file"), "old");
 }
 

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The tonefret developers
 // SPDX-License-Identifier: MIT
 #include "help/documents.h"
+#include "tests/support/ordinaryuser.h"
 
 #include <gtest/gtest.h>
 
@@ -76,6 +77,15 @@ TEST_F(Documents, unreadabledocument_isPassedOver)
 {
     fs::create_symlink("helpmc.rtf", first / "helpmc.rtf"); // leads to itself; also unreadable for who may read all
     write(second, "two");
+    EXPECT_EQ(load(), "two");
+}
+
+TEST_F(Documents, protecteddocument_isPassedOver)
+{
+    write(first, "one");
+    write(second, "two");
+    fs::permissions(first / "helpmc.rtf", fs::perms::none);
+    const tests::OrdinaryUser user;
     EXPECT_EQ(load(), "two");
 }
 

@@ -87,6 +87,25 @@ const TextCase textcases[] = {
   { "bin_longer_than_text",    R"(a\bin999999 b)",                               {"a"} },
   { "negative_bin",            R"(a\bin-5 b)",                                   {"ab"} },
   { "huge_number",             R"(\fs99999999999999999999 a\li-99999999999 b)",  {"ab"} },
+  { "hard_hyphen",             R"(one\_two)",                                     {"one\u2011two"} },
+  { "escaped_tab",             "one\\\ttwo",                                     {"one\ttwo"} },
+  { "unknown_sign",            R"(one\:two)",                                     {"onetwo"} },
+  { "capital_word",            R"(a\B\PAR b)",                                    {"ab"} },
+  { "minus_without_a_number",  R"(a\b-c)",                                        {"a-c"} },
+  { "minus_at_the_end",        "a\\b-",                                          {"a-"} },
+  { "fallback_word",           R"(\u233\emdash b)",                               {"\u00E9b"} },
+  { "fallback_sign",           R"(\u233\~b)",                                     {"\u00E9b"} },
+  { "high_surrogate_at_end",   R"(a\u-10188?)",                                   {"a\uFFFD"} },
+  { "two_high_surrogates",     R"(\u-10188?\u-10188?\u-8930?)",                   {"\uFFFD\U0001D11E"} },
+  { "low_surrogate",           R"(a\u-8930?b)",                                   {"a\uFFFDb"} },
+  { "pc",                      R"(\pc \'82)",                                     {"\u00E9"} },
+  { "pca",                     R"(\pca \'d5)",                                    {"\u0131"} },
+  { "symbol_letter",           R"({\fonttbl{\f1\fcharset2 S;}}\f1 a)",           {"a"} },
+  { "charset_of_no_font",      R"({\fonttbl\fcharset204 A;}\'e8)",               {"\u00E8"} },
+  { "charset_outside_table",   R"({\fonttbl{\f0 A;}}\f0\fcharset204\'e8)",       {"\u00E8"} },
+  { "semicolon_is_text",       R"({\colortbl;}a;b)",                             {"a;b"} },
+  { "par_outside_text",        R"(a{\fonttbl\par}b)",                            {"ab"} },
+  { "end_outside_text",        R"(a\fonttbl)",                                   {"a"} },
   { "half_an_escape",          R"(a\'4)",                                        {"a"} },
   { "bad_escape",              R"(a\'zz)",                                       {"azz"} },
   { "too_many_ends",           R"(a}}}b)",                                       {"a", "b"} },
@@ -119,6 +138,34 @@ TEST(Rtf, runs_bearTheirLook)
     EXPECT_EQ(read.front().runs, expected);
 }
 
+TEST(Rtf, slashAtTheVeryEnd_isPassedOver)
+{
+    EXPECT_THAT(texts("{\\rtf1 a\\"), ElementsAre("a"));
+}
+
+TEST(Rtf, nullBytes_arePassedOver)
+{
+    EXPECT_THAT(texts(std::string_view("{\\rtf1 a\0\0b}", 12)), ElementsAre("ab"));
+}
+
+TEST(Rtf, underlines_endInEitherWay)
+{
+    for (const char* begin : {"\\ul", "\\uld", "\\uldb", "\\ulw"})
+        for (const char* end : {"\\ulnone", "\\ul0"}) {
+            const auto read = readrtf(inbraces(std::string(begin) + " a" + end + " b"));
+            ASSERT_EQ(read.at(0).runs.size(), 2U) << begin << end;
+            EXPECT_TRUE(read.at(0).runs.at(0).format.underline) << begin;
+            EXPECT_FALSE(read.at(0).runs.at(1).format.underline) << end;
+        }
+}
+
+TEST(Rtf, fixedPitch_countsInTheFontTableOnly)
+{
+    for (const char* body :
+         {R"({\fonttbl{\f0 A;}}\f0\fmodern a)", R"({\fonttbl\fmodern A;}a)", R"({\fonttbl{\f1\fmodern A;}}\f0 a)"})
+        EXPECT_FALSE(readrtf(inbraces(body)).at(0).runs.at(0).format.fixed) << body;
+}
+
 TEST(Rtf, textOfOneLook_isOneRun)
 {
     EXPECT_EQ(readrtf(inbraces(R"(a{b}{\b0 c}\cf0 d)")).at(0).runs.size(), 1U);
@@ -146,6 +193,11 @@ TEST(Rtf, paragraphs_bearTheirForm)
     EXPECT_EQ(read[1].format, help::ParagraphFormat{});
     EXPECT_EQ(read[2].format.alignment, Alignment::right);
     EXPECT_EQ(read[3].format.alignment, Alignment::justified);
+}
+
+TEST(Rtf, leftAlignment_takesBackAnother)
+{
+    EXPECT_EQ(readrtf(inbraces(R"(\qc\ql a\par)")).at(0).format.alignment, Alignment::left);
 }
 
 TEST(Rtf, cells_knowTheirPlaceInTheTable)
@@ -200,6 +252,22 @@ TEST(Rtf, everytruncation_givesABeginning)
 TEST(Rtf, manyparagraphs_areHeldToTheirLimit)
 {
     EXPECT_EQ(readrtf(inbraces(repeated("\\par", 200'000))).size(), 100'000U);
+}
+
+TEST(Rtf, manycolours_areHeldToTheirLimit)
+{
+    const std::string table = R"({\colortbl)" + repeated(R"(\red1;)", 5000) + "}";
+    EXPECT_EQ(readrtf(inbraces(table + R"(\cf4095 a)")).at(0).runs.at(0).format.colour, 0x010000);
+    EXPECT_EQ(readrtf(inbraces(table + R"(\cf4096 a)")).at(0).runs.at(0).format.colour, std::nullopt);
+}
+
+TEST(Rtf, manyfonts_areHeldToTheirLimit)
+{
+    std::string table = R"({\fonttbl)";
+    for (int i = 0; i < 5000; ++i)
+        table += R"({\f)" + std::to_string(i) + R"(\fmodern A;})";
+    EXPECT_TRUE(readrtf(inbraces(table + R"(}\f4095 a)")).at(0).runs.at(0).format.fixed);
+    EXPECT_FALSE(readrtf(inbraces(table + R"(}\f4096 a)")).at(0).runs.at(0).format.fixed);
 }
 
 TEST(Rtf, manytabs_areHeldToTheirLimit)

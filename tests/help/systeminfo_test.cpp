@@ -103,6 +103,8 @@ TEST(SysInfoStart, systemWithoutARegistry_givesTheMessage)
     tests::RecordingDesktop desktop;
     help::StartSysInfo(*help::thissystem(), desktop);
     EXPECT_EQ(desktop.told.size(), 1U);
+    EXPECT_FALSE(help::thissystem()->fileexists("/bin/sh"));
+    EXPECT_FALSE(help::thissystem()->start("/bin/sh"));
 }
 #endif
 

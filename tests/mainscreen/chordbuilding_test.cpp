@@ -211,4 +211,21 @@ TEST(ChordButton, alternateInAnotherMode_isRespelled)
     EXPECT_EQ(s.session.note[7], "D#");
 }
 
+TEST(ShownChord, everyButton_isTheOneThatTheReadoutNames)
+{
+    Started s;
+    EXPECT_EQ(s.session.shownchord(), none);
+    s.enter("C");
+    EXPECT_EQ(s.session.shownchord(), none);
+    for (int index = 0; index < 28; ++index) {
+        s.session.Crd_Click(index);
+        EXPECT_EQ(s.session.shownchord(), index);
+    }
+    s.reset();
+    EXPECT_EQ(s.session.shownchord(), none);
+    s.enter("C Db D");
+    EXPECT_EQ(s.session.cordtyp1, "cant find");
+    EXPECT_EQ(s.session.shownchord(), none);
+}
+
 } // namespace

@@ -37,6 +37,7 @@ INSTANTIATE_TEST_SUITE_P(Notes, Copying, testing::Values(
     CopyCase{"C E G",       "C major: C E G",                  "C major: C E G"},
     CopyCase{"C Eb G Bb",   "C minor 7th: C Eb G Bb",          "C minor 7th: C Eb G Bb; also Eb major 6th"},
     CopyCase{"C Db D",      "cant find: C Db D",               "cant find: C Db D"},
+    CopyCase{"C Eb Gb A",   "C diminished: C Eb Gb A",         "C diminished: C Eb Gb A; also Eb, Gb, & A dim."},
     CopyCase{"C E Ab",      "C+ ( +5, aug. ): C E Ab",         "C+ ( +5, aug. ): C E Ab; also E+ and Ab+"}));
 // clang-format on
 

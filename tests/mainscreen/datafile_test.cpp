@@ -1,14 +1,12 @@
 // SPDX-FileCopyrightText: 2026 The tonefret developers
 // SPDX-License-Identifier: MIT
+#include "tests/support/fulldisk.h"
 #include "tests/support/huge.h"
 #include "tests/support/names.h"
 #include "tests/support/started.h"
 
 #include <gtest/gtest.h>
 
-#include <csignal>
-
-#include <sys/resource.h>
 #include <sys/stat.h>
 
 namespace {
@@ -270,14 +268,10 @@ TEST_F(DataFile, damagedFileThatCannotBeKept_isNotOverwritten)
     const std::string damaged = "something else" + std::string(5000, 'x');
     directory.write(datafile, damaged);
     Started s(directory);
-    rlimit former{};
-    ::getrlimit(RLIMIT_FSIZE, &former);
-    const rlimit fulldisk{1000, former.rlim_max};
-    const auto ending = std::signal(SIGXFSZ, SIG_IGN);
-    ::setrlimit(RLIMIT_FSIZE, &fulldisk);
-    s.session.tonefretexit();
-    ::setrlimit(RLIMIT_FSIZE, &former);
-    std::signal(SIGXFSZ, ending);
+    {
+        const tests::FullDisk disk(1000);
+        s.session.tonefretexit();
+    }
     EXPECT_EQ(s.desktop.told,
               (std::vector<Told>{{ui::Icon::critical,
                                   "Cannot keep the file " + (directory.path / datafile).string() + " beside itself" +

@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The tonefret developers
 // SPDX-License-Identifier: MIT
+#include "tests/support/fulldisk.h"
 #include "tests/support/started.h"
 
 #include <gtest/gtest.h>
@@ -260,6 +261,35 @@ TEST(LoadSaveDamaged, dataFileItself_isKeptBeforeASaveOverIt)
     s.session.mnusave_Click();
     EXPECT_EQ(directory.read("tonefret.damaged.txt"), guitar + "broken");
     EXPECT_EQ(directory.read("tonefret.txt"), guitar + "\r\n");
+}
+
+TEST_F(LoadSave, pageSavedOverTheDataFile_isKeptBesideAtTheEnd)
+{
+    directory.write("tonefret.txt", guitar);
+    s.session.page.text = "page";
+    s.desktop.answers = {Answer::yes};
+    s.desktop.files.push_back(directory.path / "tonefret.txt");
+    s.session.mprint_mnusave_Click();
+    EXPECT_EQ(directory.read("tonefret.txt"), "page\r\n");
+    s.session.tonefretexit();
+    EXPECT_EQ(directory.read("tonefret.txt"), guitar + "\r\n");
+    EXPECT_EQ(directory.read("tonefret.damaged.txt"), "page\r\n");
+}
+
+TEST(LoadSaveDamaged, dataFileThatCannotBeKept_isNotSavedOver)
+{
+    const tests::Directory directory;
+    const std::string damaged = guitar + std::string(5000, 'x');
+    directory.write("tonefret.txt", damaged);
+    Started s{directory};
+    s.desktop.files.push_back(directory.path / "tonefret.txt");
+    s.desktop.answers = {Answer::yes};
+    const tests::FullDisk disk(1000);
+    s.session.mnusave_Click();
+    ASSERT_EQ(s.desktop.told.size(), 1U);
+    EXPECT_TRUE(s.desktop.told[0].text.starts_with("Cannot keep the file ")) << s.desktop.told[0].text;
+    EXPECT_EQ(directory.names(), "tonefret.txt");
+    EXPECT_EQ(directory.read("tonefret.txt"), damaged);
 }
 
 } // namespace

@@ -288,6 +288,23 @@ TEST(PageText, manyEditsFontsAndClosings_stays)
     }
 }
 
+struct EditRow {
+    print::Edit edit;
+    const char* text;
+};
+
+TEST(PageText, editedPart_takesThePlaceOfWhatWentThere)
+{
+    const EditRow rows[] = {{{0, 0, "zero "}, "zero one two"}, {{4, 3, ""}, "one "},        {{3, 4, "!"}, "one!"},
+                            {{4, 99, "three"}, "one three"},   {{7, 0, "\n"}, "one two\n"}, {{0, 7, ""}, ""}};
+    for (const EditRow& row : rows) {
+        Started s;
+        s.session.rtbprint_Change("one two");
+        s.session.rtbprint_Edit(row.edit);
+        EXPECT_EQ(s.session.page.text, row.text);
+    }
+}
+
 TEST(LoadPage, text_replacesPageAndSnapshots)
 {
     Started s;

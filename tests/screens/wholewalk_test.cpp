@@ -1,15 +1,20 @@
 // SPDX-FileCopyrightText: 2026 The tonefret developers
 // SPDX-License-Identifier: MIT
 #include "tests/screens/screentest.h"
+#include "tests/screens/soundness.h"
 
 #include <QAbstractButton>
 #include <QLineEdit>
 #include <QMainWindow>
 #include <QMenuBar>
+#include <QPixmapCache>
 #include <QPlainTextEdit>
 
+#include <cstdio>
 #include <cstdlib>
+#include <deque>
 #include <random>
+#include <set>
 
 // A user who does anything on any screen: what is open is clicked, chosen, typed into and closed at random, questions
 // are answered and files picked at random. TONEFRET_WALK gives another number of steps.
@@ -17,8 +22,25 @@
 namespace {
 
 using tests::str;
+using tests::Told;
 
 constexpr int usualsteps = 2000;
+
+std::string joined(const std::deque<std::string>& lines)
+{
+    std::string all;
+    for (const std::string& line : lines)
+        all += "\n" + line;
+    return all;
+}
+
+std::string courseof(const std::vector<std::size_t>& bytes)
+{
+    std::string line;
+    for (const std::size_t each : bytes)
+        line += " " + std::to_string(each / 1024);
+    return line;
+}
 
 class WholeWalk : public tests::ScreenTest {
 protected:
@@ -36,34 +58,90 @@ protected:
             screen->close();
             return "close " + str(screen->objectName());
         }
-        switch (below(10)) {
+        switch (below(20)) {
         case 0:
-            return chooseon(*screen);
+            return sound.clickhidden(*screen, static_cast<unsigned>(random()));
         case 1:
-            return typeon(*screen);
+            if (screen->objectName() == QLatin1String("arrange"))
+                return sound.exchange(*screen, static_cast<unsigned>(random()));
+            [[fallthrough]];
         case 2:
+            return chooseon(*screen);
         case 3:
+        case 4:
+            return typeon(*screen);
+        case 5:
+        case 6:
+        case 7:
+        case 8:
             return pickon(*screen);
         default:
             return clickon(*screen);
         }
     }
 
-    void expectsound()
+    /// Leaves all screens but the main one, and nothing of them behind.
+    void gohome()
     {
-        for (std::size_t i = 0; i < session.note.size(); ++i)
-            expectspelled(session.note[i], "note");
-        for (const core::ScaleRow& row : session.trans1)
-            for (const std::string& name : row)
-                expectspelled(name, "transpose row");
-        for (const instruments::Cell& cell : session.fretboard.cell)
-            expectspelled(cell.text, "cell");
-        for (int i = 0; i < 8; ++i)
-            EXPECT_EQ(shown(tests::member("note", i)), session.note.at(static_cast<std::size_t>(i)));
-        for (const custom::Entry& entry : session.customtable)
-            EXPECT_EQ(entry.data.size(), entry.name.empty() ? entry.data.size() : custom::datalength);
-        expectcompanions();
+        preparedialogs();
+        for (QWidget* top : QApplication::topLevelWidgets())
+            if (top != &program.mainscreen && top->isVisible())
+                top->close();
+        session.mnuphotoclear_Click();
+        settle();
+        QPixmapCache::clear();
     }
+
+    /// What happens by itself after an event.
+    static void settle()
+    {
+        QApplication::processEvents();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    }
+
+    /// The screens over the main one that are there, open or closed; one that was closed goes when it is opened anew.
+    QList<QWidget*> companions() const
+    {
+        QList<QWidget*> all;
+        for (QWidget* each : program.mainscreen.findChildren<QWidget*>())
+            if (each->isWindow() && !each->objectName().isEmpty())
+                all.append(each);
+        return all;
+    }
+
+    /// Objects that make up the main screen.
+    std::ptrdiff_t parts() const
+    {
+        const QList<QWidget*> above = companions();
+        const auto apart = [&](const QObject* each) {
+            while (each && !above.contains(each))
+                each = each->parent();
+            return !each;
+        };
+        const auto all = program.mainscreen.findChildren<QObject*>();
+        return std::ranges::count_if(all, apart);
+    }
+
+    void expectnothingleft(std::ptrdiff_t partsatfirst) const
+    {
+        EXPECT_EQ(parts(), partsatfirst);
+        std::set<QString> names;
+        for (const QWidget* each : companions())
+            EXPECT_TRUE(names.insert(each->objectName()).second) << str(each->objectName()) << " is there twice";
+    }
+
+    /// True unless a question was asked that nobody answered. Forgets what was told.
+    bool answered()
+    {
+        const bool all =
+            std::ranges::none_of(desktop.told, [](const Told& told) { return told.text.starts_with("no answer"); });
+        desktop.told.clear();
+        desktop.asked.clear();
+        desktop.printed.clear();
+        return all;
+    }
+
+    tests::Soundness sound{program};
 
 private:
     int below(std::size_t count) { return count == 0 ? 0 : static_cast<int>(random() % count); }
@@ -92,6 +170,7 @@ private:
         for (QWidget* top : QApplication::topLevelWidgets())
             if (top->isVisible() && !top->objectName().isEmpty() && top->windowType() != Qt::Popup)
                 open.append(top);
+        std::ranges::sort(open, {}, &QObject::objectName); // or each run would have another order
         return any(open);
     }
 
@@ -167,50 +246,37 @@ private:
         return name;
     }
 
-    void expectspelled(const std::string& name, const char* where) const
-    {
-        const core::PitchClass pitch = core::notenumber(name);
-        EXPECT_EQ(name, pitch == core::nonote ? name : session.spelling.nameof(pitch)) << where;
-    }
-
-    void expectcompanions()
-    {
-        for (const QWidget* top : QApplication::topLevelWidgets()) {
-            if (!top->isVisible())
-                continue;
-            if (top->objectName() == QLatin1String("custom")) {
-                EXPECT_EQ(textof("txtname", *top), session.editform.txtname);
-                EXPECT_EQ(textof("txtnum", *top), session.editform.txtnum());
-            } else if (top->objectName() == QLatin1String("mprint")) {
-                EXPECT_EQ(str(top->findChild<QPlainTextEdit*>(QStringLiteral("rtbprint"))->toPlainText()),
-                          session.page.text);
-                EXPECT_EQ(textof("txtchar", *top), session.page.txtchar);
-            }
-        }
-    }
-
-    static std::string textof(const char* name, const QWidget& screen)
-    {
-        return str(screen.findChild<QWidget*>(QString::fromLatin1(name))->property("text").toString());
-    }
-
     std::mt19937 random{20261121}; // one seed, so that a failure comes again
 };
 
-TEST_F(WholeWalk, everystep_leavesAllScreensSound)
+TEST_F(WholeWalk, everystep_leavesAllScreensSoundAndNothingBehind)
 {
     const int all = steps();
-    std::vector<std::string> done;
+    const int stretch = std::max(all / 10, 1);
+    std::deque<std::string> lately;
+    std::vector<std::size_t> memory;
+    std::optional<std::ptrdiff_t> partsatfirst;
     for (int i = 0; i < all && !HasFailure(); ++i) {
-        done.push_back(step());
-        QApplication::processEvents();
-        expectsound();
+        lately.push_back("step " + std::to_string(i) + ": " + step());
+        if (lately.size() > 20)
+            lately.pop_front();
+        settle();
+        sound.expectsound();
+        EXPECT_TRUE(answered());
+        if (i % stretch == stretch - 1) {
+            gohome();
+            partsatfirst = partsatfirst.value_or(parts());
+            expectnothingleft(*partsatfirst);
+            memory.push_back(tests::allocated());
+        }
     }
     if (HasFailure())
-        for (std::size_t i = done.size() > 20 ? done.size() - 20 : 0; i < done.size(); ++i)
-            ADD_FAILURE() << "step " << i << ": " << done.at(i);
-    EXPECT_TRUE(
-        std::ranges::none_of(desktop.told, [](const tests::Told& told) { return told.text.starts_with("no answer"); }));
+        ADD_FAILURE() << "the last steps:" << joined(lately);
+    constexpr std::size_t caches = std::size_t{4} << 20U; // what the toolkit keeps of glyphs and the like, at most
+    EXPECT_LT(memory.empty() ? 0 : memory.back(), memory.empty() ? 1 : memory.front() + caches);
+    const std::string course = courseof(memory);
+    RecordProperty("memory", course);
+    std::printf("memory in KiB: %s\n", course.c_str());
 }
 
 } // namespace
