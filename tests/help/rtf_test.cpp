@@ -138,6 +138,37 @@ TEST(Rtf, runs_bearTheirLook)
     EXPECT_EQ(read.front().runs, expected);
 }
 
+struct PageRow {
+    int charset; ///< of a font
+    int page;    ///< of the document
+    const char* byte;
+    const char* character;
+};
+
+TEST(Rtf, charsetOfAFontAndPageOfTheDocument_nameTheSameBytes)
+{
+    const PageRow rows[] = {{77, 10000, "8e", "\u00E9"}, {161, 1253, "e1", "\u03B1"}, {162, 1254, "fe", "\u015F"},
+                            {186, 1257, "e0", "\u0105"}, {204, 1251, "e8", "\u0438"}, {238, 1250, "e8", "\u010D"},
+                            {254, 437, "9b", "\u00A2"},  {255, 850, "9b", "\u00F8"},  {0, 1252, "9b", "\u203A"}};
+    for (const PageRow& row : rows) {
+        const std::string byte = std::string("\\'") + row.byte;
+        const std::string font = "{\\fonttbl{\\f1\\fcharset" + std::to_string(row.charset) + " A;}}\\f1";
+        EXPECT_THAT(texts(inbraces(font + byte)), ElementsAre(row.character)) << row.charset;
+        EXPECT_THAT(texts(inbraces("\\ansicpg" + std::to_string(row.page) + byte)), ElementsAre(row.character))
+            << row.page;
+    }
+}
+
+TEST(Rtf, everyDestinationThatIsNoText_isPassedOver)
+{
+    for (const char* name :
+         {"author",    "buptim",     "comment", "filetbl", "fldinst", "footer",  "footerf", "footerl",
+          "footerr",   "footnote",   "header",  "headerf", "headerl", "headerr", "info",    "listoverridetable",
+          "listtable", "nonshppict", "objdata", "object",  "pict",    "revtbl",  "rxe",     "stylesheet",
+          "tc",        "txe",        "xe"})
+        EXPECT_THAT(texts(inbraces("a{\\" + std::string(name) + " b{c}}d")), ElementsAre("ad")) << name;
+}
+
 TEST(Rtf, slashAtTheVeryEnd_isPassedOver)
 {
     EXPECT_THAT(texts("{\\rtf1 a\\"), ElementsAre("a"));
