@@ -3,18 +3,19 @@
 #include "app/arguments.h"
 #include "app/portrait.h"
 #include "app/program.h"
+#include "app/warmup.h"
 
 #include <QApplication>
 #include <QIcon>
 #include <QStandardPaths>
 
-#include <iostream>
+#include <cstdio>
 
 namespace {
 
 int answer(const app::Arguments& arguments)
 {
-    (arguments.refused ? std::cerr : std::cout) << arguments.answer << std::flush;
+    std::fputs(arguments.answer.c_str(), arguments.refused ? stderr : stdout);
     return arguments.refused ? 1 : 0;
 }
 
@@ -54,7 +55,9 @@ int main(int argc, char** argv)
     if (!early.answer.empty() && !early.refused)
         return answer(early);
 
+    app::FontWarmup fonts;
     const QApplication application(argc, argv);
+    fonts.toolkitmade();
     nameapplication();
     const app::Arguments arguments = app::readarguments(QApplication::arguments());
     if (!arguments.answer.empty())
@@ -64,6 +67,7 @@ int main(int argc, char** argv)
     if (arguments.userdata)
         useuserdata(desktop);
     app::Program program(desktop);
+    fonts.finish();
     program.start();
     return QApplication::exec();
 }

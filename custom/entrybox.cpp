@@ -137,7 +137,7 @@ void EntryBox::paintEvent(QPaintEvent* /*event*/)
     const QColor face = held ? theme.pressed : aimed ? theme.hover : theme.button;
     ui::paintbox(painter, look, rect(), face, aimed ? theme.accent : theme.hairline, corner);
     const double margin = 7 * look.zoom();
-    ui::painttext(painter, QRectF(rect()).adjusted(margin, 0, -margin, 0), name, look.font(ui::Type::text),
+    ui::painttext(painter, look, QRectF(rect()).adjusted(margin, 0, -margin, 0), name, look.font(ui::Type::text),
                   held ? theme.pressedtext : theme.text, Qt::AlignLeft | Qt::AlignVCenter);
     if (aimed)
         ui::paintfocus(painter, look, rect(), corner);

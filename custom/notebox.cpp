@@ -22,7 +22,7 @@ void NoteBox::paintEvent(QPaintEvent* /*event*/)
     const ui::Theme& theme = look.theme();
     ui::paintbox(painter, look, rect(), underMouse() ? theme.hover : theme.button,
                  underMouse() ? theme.accent : theme.hairline, corner);
-    ui::painttext(painter, rect(), text(), look.font(ui::Type::strong), theme.text);
+    ui::painttext(painter, look, rect(), text(), look.font(ui::Type::strong), theme.text);
     ring.paint(painter, look, *this, rect(), corner);
 }
 

@@ -149,7 +149,7 @@ void MainScreen::changeEvent(QEvent* event)
         return;
     look.followpalette(palette());
     dressmenubar();
-    canvas->repaintbackdrop();
+    canvas->update();
     Q_EMIT lookchanged();
 }
 

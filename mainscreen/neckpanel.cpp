@@ -9,6 +9,8 @@
 #include <QLinearGradient>
 #include <QPainter>
 
+#include <utility>
+
 namespace mainscreen {
 namespace {
 
@@ -57,8 +59,8 @@ NeckPanel::NeckPanel(ui::Canvas& drawn, Session& shown, ui::Stage& entered)
       fretcaption(new ui::Readout(canvas.look(), ui::Type::heading, ui::Readout::Frame::none, Qt::AlignLeft, &canvas)),
       roving(new ui::RovingFocus([this](int from, Qt::Key pressed) { return neighbour(from, pressed); }, &canvas))
 {
-    canvas.addbackdrop(
-        [this](QPainter& painter, const ui::Look& look) { paintneck(painter, look, session.fretboard); });
+    canvas.addbackdrop(places::neckarea,
+                       [this](QPainter& painter, const ui::Look& look) { paintbackdrop(painter, look); });
     capobar->setObjectName(QStringLiteral("capobar"));
     capofollower->setObjectName(QStringLiteral("capofollower"));
     fretcaption->setObjectName(QStringLiteral("fretcaption"));
@@ -104,9 +106,28 @@ int NeckPanel::stepped(int index, int step, int first, int last) const
     return index;
 }
 
+/// The neck, from a picture that is painted anew only when it would look different.
+void NeckPanel::paintbackdrop(QPainter& painter, const ui::Look& look)
+{
+    const QRect place = look.place(neckreach(session.fretboard));
+    const double scale = painter.device()->devicePixelRatioF();
+    const Pictured wanted{session.fretboard.hand, session.fretboard.layout, look.zoom(), &look.theme(), scale};
+    if (pictured != wanted) {
+        pictured = wanted;
+        picture = QPixmap(place.size() * scale);
+        picture.setDevicePixelRatio(scale);
+        picture.fill(look.theme().surface);
+        QPainter maker(&picture);
+        maker.translate(-place.topLeft());
+        paintneck(maker, look, session.fretboard);
+    }
+    painter.drawPixmap(place.topLeft(), picture);
+}
+
 void NeckPanel::placecells()
 {
     const instruments::Fretboard& board = session.fretboard;
+    canvas.setUpdatesEnabled(false); // all is painted at once at the end, not each cell that is moved
     for (int i = 0; i < instruments::cellcount; ++i) {
         const int fret = i / instruments::rowcount;
         canvas.place(Text1.at(static_cast<std::size_t>(i)),
@@ -118,7 +139,7 @@ void NeckPanel::placecells()
                  {instruments::handrow(board.hand).captionleft, neckplace(board).bottom() + 2 * px, 60 * px, 14 * px});
     shownhand = board.hand;
     shownlayout = board.layout;
-    canvas.repaintbackdrop();
+    canvas.setUpdatesEnabled(true);
 }
 
 void NeckPanel::display()
@@ -133,7 +154,11 @@ void NeckPanel::display()
 
 void NeckPanel::displaycell(int index)
 {
-    const instruments::Cell& state = session.fretboard.cell.at(static_cast<std::size_t>(index));
+    const auto& cells = session.fretboard.cell;
+    const instruments::Cell& state = cells.at(static_cast<std::size_t>(index));
+    const Shown now{state, cells.at(static_cast<std::size_t>(index % instruments::rowcount)).text};
+    if (std::exchange(onscreen.at(static_cast<std::size_t>(index)), now) == now)
+        return;
     ui::NoteCell* cell = Text1.at(static_cast<std::size_t>(index));
     rename(cell, spokenname(index) + ui::spokenmark(state.back));
     cell->display(totext(state.text), state.back);

@@ -6,6 +6,11 @@
 #include "ui/notecell.h"
 #include "ui/rovingfocus.h"
 
+#include <QPixmap>
+
+#include <array>
+#include <optional>
+
 namespace mainscreen {
 
 /// The neck with its 120 cells, its strings and its capo.
@@ -17,6 +22,26 @@ public:
     void displaytips(const Tips& tips) override;
 
 private:
+    /// What the neck's picture depends on.
+    struct Pictured {
+        instruments::Hand hand;
+        instruments::StringLayout layout;
+        double zoom;
+        const ui::Theme* theme;
+        double devicescale; ///< device pixels to a pixel
+
+        friend bool operator==(const Pictured&, const Pictured&) = default;
+    };
+
+    /// What a cell shows, and the name of its string, by which it is read aloud.
+    struct Shown {
+        instruments::Cell state;
+        std::string open;
+
+        friend bool operator==(const Shown&, const Shown&) = default;
+    };
+
+    void paintbackdrop(QPainter& painter, const ui::Look& look);
     void displaycell(int index);
     QString spokenname(int index) const;
     void displaycapo();
@@ -29,6 +54,9 @@ private:
     ui::Readout* fretcaption = nullptr;
     ui::RovingFocus* roving = nullptr;
     std::array<ui::NoteCell*, instruments::cellcount> Text1{};
+    std::optional<Pictured> pictured;
+    QPixmap picture;
+    std::array<std::optional<Shown>, instruments::cellcount> onscreen;
     instruments::Hand shownhand = instruments::Hand::right;
     instruments::StringLayout shownlayout = instruments::StringLayout::sixstrings;
 };

@@ -8,6 +8,8 @@
 #include <QLinearGradient>
 #include <QPainter>
 
+#include <algorithm>
+
 namespace mainscreen {
 namespace {
 
@@ -20,6 +22,8 @@ using ui::Twips;
 
 constexpr std::array<int, 8> inlayfrets{3, 5, 7, 9, 12, 15, 17, 19};
 constexpr Twips nutwidth = 6 * px;
+constexpr Twips numbergap = 2 * px; ///< below the wood
+constexpr Twips numberheight = 14 * px;
 constexpr Twips headreach = 11 * px; ///< of the strings beyond their open cells
 
 Twips columnleft(int fret, Hand hand)
@@ -153,8 +157,8 @@ void paintstring(QPainter& painter, const Look& look, const Fretboard& board, in
 void paintnumbers(QPainter& painter, const Look& look, const TwipRect& neck, Hand hand)
 {
     for (const int fret : inlayfrets) {
-        const TwipRect where{columnmiddle(fret, hand) - 15 * px, neck.bottom() + 2 * px, 30 * px, 14 * px};
-        ui::painttext(painter, look.exact(where), QString::number(fret), look.font(ui::Type::heading),
+        const TwipRect where{columnmiddle(fret, hand) - 15 * px, neck.bottom() + numbergap, 30 * px, numberheight};
+        ui::painttext(painter, look, look.exact(where), QString::number(fret), look.font(ui::Type::heading),
                       look.theme().label);
     }
 }
@@ -172,6 +176,15 @@ TwipRect neckplace(const Fretboard& fretboard)
     const Twips left = hand == Hand::right ? wire(0, hand) : end - places::cellgap;
     const Twips right = hand == Hand::right ? end + places::cellgap : wire(0, hand);
     return {left, top, right - left, bottom - top};
+}
+
+TwipRect neckreach(const Fretboard& fretboard)
+{
+    const TwipRect wood = neckplace(fretboard);
+    const instruments::HandRow& ends = instruments::handrow(fretboard.hand);
+    const Twips left = std::min(ends.segmentleft, columnleft(0, fretboard.hand) - headreach);
+    const Twips right = std::max(ends.segmentright, columnright(0, fretboard.hand) + headreach);
+    return {left, wood.top, right - left, wood.height + numbergap + numberheight};
 }
 
 void paintneck(QPainter& painter, const Look& look, const Fretboard& fretboard)

@@ -23,7 +23,7 @@ void paintcard(QPainter& painter, const ui::Look& look)
 OutputPanel::OutputPanel(ui::Canvas& drawn, Session& shown, ui::Stage& entered)
     : Panel(drawn, shown, entered), spoken(new ui::Spoken(&canvas))
 {
-    canvas.addbackdrop(paintcard);
+    canvas.addbackdrop(places::outputcard, paintcard);
     addcaptions();
     addreadouts();
     reset = put(new ui::Button(canvas.look(), QString(), &canvas), membername("key", resetkey), places::reset);

@@ -13,9 +13,10 @@ void Panel::caption(const char* name, const char* text, ui::Type type, const ui:
 
 void Panel::settip(QWidget* control, std::string_view tip)
 {
-    control->setToolTip(totext(tip));
-    if (!tip.empty())
-        control->setAccessibleDescription(totext(tip));
+    const QString shown = totext(tip);
+    control->setToolTip(shown);
+    if (!shown.isEmpty())
+        control->setAccessibleDescription(shown);
 }
 
 void Panel::rename(QWidget* control, const QString& spokenname)

@@ -8,6 +8,7 @@
 #include <QPainter>
 
 #include <algorithm>
+#include <utility>
 
 namespace mainscreen {
 namespace {
@@ -55,7 +56,7 @@ int neighbour(int k, Qt::Key pressed)
 PianoPanel::PianoPanel(ui::Canvas& drawn, Session& shown, ui::Stage& entered)
     : Panel(drawn, shown, entered), roving(new ui::RovingFocus(neighbour, &canvas))
 {
-    canvas.addbackdrop(paintcase);
+    canvas.addbackdrop(places::keycase, paintcase);
     for (int k = 0; k < pianokeys; ++k)
         if (!core::isblack(k))
             addkey(k);
@@ -78,6 +79,8 @@ void PianoPanel::display()
 {
     for (std::size_t k = 0; k < key.size(); ++k) {
         const Key& state = session.keyboard.key.at(k);
+        if (std::exchange(onscreen.at(k), state) == state)
+            continue;
         key.at(k)->display(totext(state.caption), state.back);
         rename(key.at(k), spokenname(static_cast<int>(k), state.back));
     }

@@ -6,6 +6,9 @@
 #include "ui/pianokey.h"
 #include "ui/rovingfocus.h"
 
+#include <array>
+#include <optional>
+
 namespace mainscreen {
 
 /// The two octaves of keys in their case.
@@ -21,6 +24,7 @@ private:
 
     std::array<ui::PianoKey*, pianokeys> key{};
     ui::RovingFocus* roving = nullptr;
+    std::array<std::optional<Key>, pianokeys> onscreen;
 };
 
 } // namespace mainscreen

@@ -119,6 +119,8 @@ inline constexpr TwipRect optiondown{628 * px, selectortop, 24 * px, 24 * px};
 inline constexpr TwipRect optionup{656 * px, selectortop, 24 * px, 24 * px};
 
 // Neck
+inline constexpr Twips necktop = selectortop + 24 * px;
+inline constexpr TwipRect neckarea{0, necktop, area.width, area.height - necktop}; ///< with all that stands around it
 inline constexpr Twips widestcell = 345;
 inline constexpr Twips cellgap = 45;     ///< between neighbours where the columns stand closest
 inline constexpr Twips neckmargin = 105; ///< of wood above the first string's cells and below the last's

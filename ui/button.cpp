@@ -91,7 +91,7 @@ void Button::paintEvent(QPaintEvent* /*event*/)
     if (arrow != Qt::NoArrow)
         paintarrow(painter, look, rect(), arrow, ink());
     const double margin = 2 * look.zoom();
-    painttext(painter, QRectF(rect()).adjusted(margin, 0, -margin, 0), caption(),
+    painttext(painter, look, QRectF(rect()).adjusted(margin, 0, -margin, 0), caption(),
               look.font(font().bold() ? Type::strong : Type::text), ink());
     ring.paint(painter, look, *this, rect(), corner);
 }

@@ -3,7 +3,6 @@
 #include "ui/canvas.h"
 
 #include <QPaintEvent>
-#include <QPainter>
 
 #include <algorithm>
 
@@ -54,15 +53,9 @@ void Canvas::layoutcontrols()
     origin = QPoint(std::max(0, (width() - used.width()) / 2), std::max(0, (height() - used.height()) / 2));
     for (const Placed& placed : controls)
         move(placed);
-    repaintbackdrop();
+    update();
     if (shown.zoom() != before)
         Q_EMIT zoomed();
-}
-
-void Canvas::repaintbackdrop()
-{
-    picture = {};
-    update();
 }
 
 void Canvas::resizeEvent(QResizeEvent* event)
@@ -73,18 +66,15 @@ void Canvas::resizeEvent(QResizeEvent* event)
 
 void Canvas::paintEvent(QPaintEvent* event)
 {
-    if (picture.isNull() || picture.devicePixelRatio() != devicePixelRatioF()) {
-        picture = QPixmap(size() * devicePixelRatioF());
-        picture.setDevicePixelRatio(devicePixelRatioF());
-        picture.fill(shown.theme().surface);
-        QPainter painter(&picture);
-        painter.translate(origin);
-        for (const Backdrop& paint : backdrops)
-            paint(painter, shown);
-    }
     QPainter painter(this);
-    painter.setClipRegion(event->region());
-    painter.drawPixmap(0, 0, picture);
+    for (const QRect& each : event->region())
+        painter.fillRect(each, shown.theme().surface);
+    painter.translate(origin);
+    for (const Backdrop& backdrop : backdrops) {
+        const QRect where = shown.place(backdrop.where);
+        if (event->region().intersects(where.translated(origin)))
+            backdrop.paint(painter, shown);
+    }
 }
 
 } // namespace ui

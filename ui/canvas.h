@@ -4,7 +4,7 @@
 
 #include "ui/look.h"
 
-#include <QPixmap>
+#include <QPainter>
 #include <QWidget>
 
 #include <functional>
@@ -13,22 +13,20 @@
 namespace ui {
 
 /// An area on which controls have their places in twips. It is drawn at the zoom that fits it and keeps its
-/// proportions; what is left over is margin. Behind the controls stands a picture that is painted once for each zoom,
-/// theme and change of what it shows.
+/// proportions; what is left over is margin. Behind the controls stand backdrops.
 class Canvas : public QWidget {
     Q_OBJECT
 
 public:
-    using Backdrop = std::function<void(QPainter&, const Look&)>;
+    using Painting = std::function<void(QPainter&, const Look&)>;
 
     /// `shownlook` follows this canvas's zoom from now on.
     Canvas(Look& shownlook, QSize twips, QWidget* parent = nullptr);
 
     /// Puts a control, made with this canvas as its parent, at its place.
     void place(QWidget* control, const TwipRect& where);
-    /// Paints on the picture behind the controls, after those added before.
-    void addbackdrop(Backdrop painter) { backdrops.push_back(std::move(painter)); }
-    void repaintbackdrop();
+    /// Paints behind the controls, over the backdrops added before, whenever something within `where` is painted.
+    void addbackdrop(const TwipRect& where, Painting paint) { backdrops.push_back({where, std::move(paint)}); }
 
     const Look& look() const { return shown; }
     QSize sizeat(double zoom) const;
@@ -53,6 +51,11 @@ private:
         TwipRect where;
     };
 
+    struct Backdrop {
+        TwipRect where;
+        Painting paint;
+    };
+
     void layoutcontrols();
     void move(const Placed& placed);
 
@@ -61,7 +64,6 @@ private:
     QPoint origin;
     std::vector<Placed> controls;
     std::vector<Backdrop> backdrops;
-    QPixmap picture;
 };
 
 } // namespace ui

@@ -91,6 +91,8 @@ QPalette Look::palettefor(const QColor& ground) const
 void Look::setzoom(double zoom)
 {
     factor = zoom;
+    shapes.clear();
+    texts.clear();
     for (std::size_t i = 0; i < fonts.size(); ++i) {
         QFont font = QGuiApplication::font();
         font.setPixelSize(qMax(1, qRound(typescale.at(i).pixels * zoom)));

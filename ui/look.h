@@ -3,6 +3,8 @@
 #pragma once
 
 #include "core/display.h"
+#include "ui/lettering.h"
+#include "ui/stamps.h"
 
 #include <QColor>
 #include <QFont>
@@ -75,6 +77,10 @@ public:
     /// The same on whole pixels; neighbours that touch in twips touch in pixels.
     QRect place(const TwipRect& r) const;
     const QFont& font(Type type) const { return fonts.at(static_cast<std::size_t>(type)); }
+    /// Shapes that were painted at this zoom.
+    Stamps& stamps() const { return shapes; }
+    /// Texts that were laid out for the fonts of this look.
+    Lettering& lettering() const { return texts; }
 
 private:
     static constexpr double twipsperpixel = 15;
@@ -82,6 +88,8 @@ private:
     const Theme* current;
     double factor = 1;
     std::array<QFont, 7> fonts;
+    mutable Stamps shapes;
+    mutable Lettering texts;
 };
 
 } // namespace ui

@@ -17,8 +17,8 @@ void NoteCell::paintEvent(QPaintEvent* /*event*/)
     const QColor edge = marked ? markink() : underMouse() ? look.theme().accent : QColor(0xCF, 0xCA, 0xBE);
     paintbox(painter, look, pill, tocolour(back), edge, pill.height() / 2 / look.zoom());
     const QRectF room = pill.adjusted(gap, 0, -gap, 0);
-    painttext(painter, room, text(), fitted(look.font(marked ? Type::mark : Type::note), widestname(), room.width()),
-              markink());
+    painttext(painter, look, room, text(),
+              fitted(look, look.font(marked ? Type::mark : Type::note), widestname(), room.width()), markink());
     ring.paint(painter, look, *this, pill, pill.height() / 2 / look.zoom());
 }
 

@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: MIT
 #include "ui/paint.h"
 
-#include <QFontMetricsF>
 #include <QPainterPath>
 
 namespace ui {
@@ -10,17 +9,22 @@ namespace ui {
 void paintbox(QPainter& painter, const Look& look, const QRectF& box, const QColor& face, const QColor& edge,
               double corner)
 {
-    const double line = qMax(1.0, look.zoom());
-    const double half = line / 2;
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(QPen(edge, line));
-    painter.setBrush(face);
-    painter.drawRoundedRect(box.adjusted(half, half, -half, -half), corner * look.zoom(), corner * look.zoom());
+    const Stamp stamp{
+        .kind = Stamp::Kind::box, .size = box.size(), .face = face.rgba(), .edge = edge.rgba(), .corner = corner};
+    look.stamps().put(painter, box.topLeft(), stamp, [&](QPainter& on, const QPointF& place) {
+        const double line = qMax(1.0, look.zoom());
+        const double half = line / 2;
+        on.setRenderHint(QPainter::Antialiasing);
+        on.setPen(QPen(edge, line));
+        on.setBrush(face);
+        on.drawRoundedRect(QRectF(place, box.size()).adjusted(half, half, -half, -half), corner * look.zoom(),
+                           corner * look.zoom());
+    });
 }
 
-QFont fitted(const QFont& font, const QString& text, double width)
+QFont fitted(const Look& look, const QFont& font, const QString& text, double width)
 {
-    const double needed = QFontMetricsF(font).horizontalAdvance(text);
+    const double needed = look.lettering().line(text, font).size().width();
     if (needed <= width)
         return font;
     QFont smaller = font;
@@ -28,14 +32,20 @@ QFont fitted(const QFont& font, const QString& text, double width)
     return smaller;
 }
 
-void painttext(QPainter& painter, const QRectF& box, const QString& text, const QFont& font, const QColor& colour,
-               Qt::Alignment alignment)
+void painttext(QPainter& painter, const Look& look, const QRectF& box, const QString& text, const QFont& font,
+               const QColor& colour, Qt::Alignment alignment)
 {
     if (text.isEmpty())
         return;
-    painter.setFont(fitted(font, text, box.width()));
+    const QFont used = fitted(look, font, text, box.width());
+    const QStaticText& line = look.lettering().line(text, used);
+    const QSizeF room = box.size() - line.size();
+    const double left = alignment.testFlag(Qt::AlignLeft)    ? 0
+                        : alignment.testFlag(Qt::AlignRight) ? room.width()
+                                                             : room.width() / 2;
+    painter.setFont(used);
     painter.setPen(colour);
-    painter.drawText(box, static_cast<int>(alignment) | Qt::TextSingleLine, text);
+    painter.drawStaticText(box.topLeft() + QPointF(left, room.height() / 2), line);
 }
 
 void paintfocus(QPainter& painter, const Look& look, const QRectF& box, double corner)

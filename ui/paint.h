@@ -23,11 +23,12 @@ inline QString widestname()
 }
 
 /// The font, in a smaller size where `text` would be wider than `width` pixels.
-QFont fitted(const QFont& font, const QString& text, double width);
+QFont fitted(const Look& look, const QFont& font, const QString& text, double width);
 
-/// Text on one line within `box`, in a smaller size where it would not fit.
-void painttext(QPainter& painter, const QRectF& box, const QString& text, const QFont& font, const QColor& colour,
-               Qt::Alignment alignment = Qt::AlignCenter);
+/// Text on one line, half way down `box` and at the side that `alignment` names, else in the middle; in a smaller size
+/// where it would not fit.
+void painttext(QPainter& painter, const Look& look, const QRectF& box, const QString& text, const QFont& font,
+               const QColor& colour, Qt::Alignment alignment = Qt::AlignCenter);
 
 /// The ring that shows where the keyboard acts, just inside `box`.
 void paintfocus(QPainter& painter, const Look& look, const QRectF& box, double corner);

@@ -14,11 +14,13 @@ namespace {
 /// A key is square where it meets the case and rounded at the player's end.
 QPainterPath keyshape(const QRectF& box, double corner)
 {
-    QPainterPath path;
-    path.setFillRule(Qt::WindingFill);
-    path.addRoundedRect(box, corner, corner);
-    path.addRect(box.adjusted(0, 0, 0, -2 * corner));
-    return path.simplified();
+    const QSizeF round(2 * corner, 2 * corner);
+    QPainterPath path(box.topLeft());
+    path.lineTo(box.topRight());
+    path.arcTo(QRectF(box.bottomRight() - QPointF(2 * corner, 2 * corner), round), 0, -90);
+    path.arcTo(QRectF(box.bottomLeft() - QPointF(0, 2 * corner), round), -90, -90);
+    path.closeSubpath();
+    return path;
 }
 
 } // namespace
@@ -31,7 +33,6 @@ PianoKey::PianoKey(const Look& shownlook, Kind made, QWidget* parent)
 void PianoKey::paintEvent(QPaintEvent* /*event*/)
 {
     QPainter painter(this);
-    painter.setRenderHint(QPainter::Antialiasing);
     paintbody(painter);
     paintcaption(painter);
     ring.paint(painter, look, *this, rect(), kind == Kind::white ? 4 : 3);
@@ -39,6 +40,16 @@ void PianoKey::paintEvent(QPaintEvent* /*event*/)
 
 void PianoKey::paintbody(QPainter& painter) const
 {
+    const Stamp stamp{.kind = kind == Kind::white ? Stamp::Kind::whitekey : Stamp::Kind::blackkey,
+                      .size = size(),
+                      .face = back,
+                      .pressed = isDown()};
+    look.stamps().put(painter, QPointF(), stamp, [this](QPainter& on, const QPointF& /*place*/) { paintshape(on); });
+}
+
+void PianoKey::paintshape(QPainter& painter) const
+{
+    painter.setRenderHint(QPainter::Antialiasing);
     const double line = look.zoom();
     const bool white = kind == Kind::white;
     const QRectF box = QRectF(rect()).adjusted(line / 2, -line, -line / 2, -line / 2);
@@ -68,13 +79,13 @@ void PianoKey::paintbody(QPainter& painter) const
 void PianoKey::paintcaption(QPainter& painter) const
 {
     const Type type = kind == Kind::black || ismark(back) ? Type::mark : Type::text;
-    const QFont font = fitted(look.font(type), widestname(), width() - look.zoom());
+    const QFont font = fitted(look, look.font(type), widestname(), width() - look.zoom());
     const double lineheight = 13 * look.zoom();
     const QStringList names = text().split(QLatin1Char(' '));
     double top =
         height() - (kind == Kind::white ? 8 : 12) * look.zoom() - lineheight * static_cast<double>(names.size());
     for (const QString& name : names) {
-        painttext(painter, QRectF(0, top, width(), lineheight), name, font, markink());
+        painttext(painter, look, QRectF(0, top, width(), lineheight), name, font, markink());
         top += lineheight;
     }
 }

@@ -20,6 +20,7 @@ protected:
 
 private:
     void paintbody(QPainter& painter) const;
+    void paintshape(QPainter& painter) const;
     void paintcaption(QPainter& painter) const;
 
     Kind kind;

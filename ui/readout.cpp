@@ -80,7 +80,8 @@ void Readout::paintEvent(QPaintEvent* /*event*/)
         ink = theme.label;
     const double margin = alignment.testFlag(Qt::AlignLeft) && frame != Frame::none ? 8 * look.zoom() : look.zoom();
     const QRectF room = QRectF(rect()).adjusted(margin, 0, -look.zoom(), 0);
-    painttext(painter, room, shown, fitted(look.font(type), widest, room.width()), ink, alignment | Qt::AlignVCenter);
+    painttext(painter, look, room, shown, fitted(look, look.font(type), widest, room.width()), ink,
+              alignment | Qt::AlignVCenter);
 }
 
 } // namespace ui

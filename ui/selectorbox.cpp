@@ -114,7 +114,7 @@ void SelectorBox::paintEvent(QPaintEvent* /*event*/)
     paintbox(painter, look, rect(), underMouse() ? theme.hover : theme.button, theme.hairline, 5);
     const double margin = 8 * look.zoom();
     const double arrowroom = 22 * look.zoom();
-    painttext(painter, QRectF(rect()).adjusted(margin, 0, -arrowroom, 0), shown.trimmed(), look.font(Type::text),
+    painttext(painter, look, QRectF(rect()).adjusted(margin, 0, -arrowroom, 0), shown.trimmed(), look.font(Type::text),
               theme.text, Qt::AlignLeft | Qt::AlignVCenter);
     paintchevron(painter, look, QPointF(width() - arrowroom / 2, height() / 2.0), theme.label);
     ring.paint(painter, look, *this, rect(), 5);

@@ -1,0 +1,34 @@
+// SPDX-FileCopyrightText: 2026 The tonefret developers
+// SPDX-License-Identifier: MIT
+#include "ui/lettering.h"
+
+#include <QTextOption>
+
+#include <memory>
+
+namespace ui {
+
+Lettering& Lettering::operator=(const Lettering& other)
+{
+    if (this != &other)
+        clear();
+    return *this;
+}
+
+const QStaticText& Lettering::line(const QString& text, const QFont& font)
+{
+    const Key key{text, font.pixelSize(), font.weight()};
+    if (const QStaticText* found = kept.object(key))
+        return *found;
+    auto made = std::make_unique<QStaticText>(text);
+    made->setTextFormat(Qt::PlainText);
+    QTextOption oneline;
+    oneline.setWrapMode(QTextOption::NoWrap);
+    made->setTextOption(oneline);
+    made->prepare({}, font);
+    const QStaticText& line = *made;
+    kept.insert(key, made.release());
+    return line;
+}
+
+} // namespace ui

@@ -1,0 +1,23 @@
+// SPDX-FileCopyrightText: 2026 The tonefret developers
+// SPDX-License-Identifier: MIT
+#include "ui/printqueue.h"
+
+#include <QLibrary>
+
+namespace ui {
+
+// The toolkit hands over its file as the last thing that it does with a job and drops the answer; CUPS's own library,
+// which the toolkit has loaded by then, still has it. To link that library would bring twenty others into memory at
+// every start.
+std::string queuerefusal()
+{
+    constexpr int firstfailure = 0x0300; // of the answers that cupsLastError gives
+    QLibrary cups(QStringLiteral("cups"), 2);
+    const auto answer = reinterpret_cast<int (*)()>(cups.resolve("cupsLastError"));
+    const auto words = reinterpret_cast<const char* (*)()>(cups.resolve("cupsLastErrorString"));
+    if (!answer || !words || answer() < firstfailure)
+        return {};
+    return words();
+}
+
+} // namespace ui
