@@ -127,19 +127,19 @@ void NeckPanel::paintbackdrop(QPainter& painter, const ui::Look& look)
 void NeckPanel::placecells()
 {
     const instruments::Fretboard& board = session.fretboard;
-    canvas.setUpdatesEnabled(false); // all is painted at once at the end, not each cell that is moved
+    std::vector<ui::Canvas::Placed> moved{
+        {fretcaption,
+         {instruments::handrow(board.hand).captionleft, neckplace(board).bottom() + 2 * px, 60 * px, 14 * px}}};
     for (int i = 0; i < instruments::cellcount; ++i) {
         const int fret = i / instruments::rowcount;
-        canvas.place(Text1.at(static_cast<std::size_t>(i)),
-                     {instruments::columns.at(static_cast<std::size_t>(fret))[board.hand],
-                      board.rowtop.at(static_cast<std::size_t>(i % instruments::rowcount)),
-                      places::cellwidth(fret, board.hand), instruments::rowheight});
+        moved.push_back({Text1.at(static_cast<std::size_t>(i)),
+                         {instruments::columns.at(static_cast<std::size_t>(fret))[board.hand],
+                          board.rowtop.at(static_cast<std::size_t>(i % instruments::rowcount)),
+                          places::cellwidth(fret, board.hand), instruments::rowheight}});
     }
-    canvas.place(fretcaption,
-                 {instruments::handrow(board.hand).captionleft, neckplace(board).bottom() + 2 * px, 60 * px, 14 * px});
+    canvas.placeall(moved, places::neckarea);
     shownhand = board.hand;
     shownlayout = board.layout;
-    canvas.setUpdatesEnabled(true);
 }
 
 void NeckPanel::display()

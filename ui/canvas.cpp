@@ -38,6 +38,20 @@ void Canvas::place(QWidget* control, const TwipRect& where)
     }
 }
 
+void Canvas::placeall(const std::vector<Placed>& moved, const TwipRect& within)
+{
+    const auto hold = [&](bool held) { // by the attribute alone: the function around it paints each control again
+        setAttribute(Qt::WA_UpdatesDisabled, held);
+        for (const Placed& each : moved)
+            each.control->setAttribute(Qt::WA_UpdatesDisabled, held);
+    };
+    hold(true);
+    for (const Placed& each : moved)
+        place(each.control, each.where);
+    hold(false);
+    update(shown.place(within).translated(origin));
+}
+
 void Canvas::move(const Placed& placed)
 {
     const QRect target = shown.place(placed.where).translated(origin);

@@ -18,6 +18,11 @@ class Canvas : public QWidget {
     Q_OBJECT
 
 public:
+    /// A control and its place.
+    struct Placed {
+        QWidget* control;
+        TwipRect where;
+    };
     using Painting = std::function<void(QPainter&, const Look&)>;
 
     /// `shownlook` follows this canvas's zoom from now on.
@@ -25,6 +30,9 @@ public:
 
     /// Puts a control, made with this canvas as its parent, at its place.
     void place(QWidget* control, const TwipRect& where);
+    /// The same for many controls, all of which stay `within` an area: it is painted once, at
+    /// the end, instead of with each of them.
+    void placeall(const std::vector<Placed>& moved, const TwipRect& within);
     /// Paints behind the controls, over the backdrops added before, whenever something within `where` is painted.
     void addbackdrop(const TwipRect& where, Painting paint) { backdrops.push_back({where, std::move(paint)}); }
 
@@ -46,11 +54,6 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
-    struct Placed {
-        QWidget* control;
-        TwipRect where;
-    };
-
     struct Backdrop {
         TwipRect where;
         Painting paint;
