@@ -35,11 +35,10 @@ MainScreen::MainScreen(Session& shown, ui::Stage& entered, ui::Look& shared)
       stage(entered),
       look(shared),
       canvas(new ui::Canvas(look, QSize(places::area.width, places::area.height), this)),
-      menus(*menuBar(), shown, entered)
+      menus(styledmenubar(), shown, entered)
 {
     setObjectName(QStringLiteral("tonefret"));
     setWindowTitle(QStringLiteral("tonefret"));
-    menuBar()->setStyle(new ui::PartStyle(look, this));
     setCentralWidget(canvas);
     connect(canvas, &ui::Canvas::zoomed, this, &MainScreen::lookchanged);
     dressmenubar();
@@ -119,6 +118,13 @@ void MainScreen::centre()
     const double left = room.left() + (room.width() - width()) / 2.0;
     const double top = room.top() + (room.height() - height()) / 2.0;
     move(qRound(left), qRound(top));
+}
+
+/// The menu bar while it is empty: menus would be measured for each style.
+QMenuBar& MainScreen::styledmenubar()
+{
+    menuBar()->setStyle(new ui::PartStyle(look, this));
+    return *menuBar();
 }
 
 /// The menus stand on a card of their own above the paper.

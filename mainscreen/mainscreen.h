@@ -41,6 +41,7 @@ private:
     void addzoomkeys();
     void onkeys(const QKeySequence& keys, std::function<void()> act);
     void sizeto(double zoom);
+    QMenuBar& styledmenubar();
     void dressmenubar();
     void scalemenubar(double zoom);
 
