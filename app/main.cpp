@@ -55,9 +55,8 @@ int main(int argc, char** argv)
     if (!early.answer.empty() && !early.refused)
         return answer(early);
 
-    app::FontWarmup fonts;
+    std::jthread fonts = app::warmfonts();
     const QApplication application(argc, argv);
-    fonts.toolkitmade();
     nameapplication();
     const app::Arguments arguments = app::readarguments(QApplication::arguments());
     if (!arguments.answer.empty())
@@ -67,7 +66,8 @@ int main(int argc, char** argv)
     if (arguments.userdata)
         useuserdata(desktop);
     app::Program program(desktop);
-    fonts.finish();
+    if (fonts.joinable())
+        fonts.join();
     program.start();
     return QApplication::exec();
 }

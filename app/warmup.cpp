@@ -2,42 +2,24 @@
 // SPDX-License-Identifier: MIT
 #include "app/warmup.h"
 
-#include <QFontDatabase>
 #include <QLibrary>
+
+#include <bit>
+#include <system_error>
 
 namespace app {
 
-FontWarmup::FontWarmup() : reader([this] { run(); }) {}
-
-FontWarmup::~FontWarmup()
+// The toolkit itself has the library open, and takes over what was read. The thread knows nothing of the toolkit.
+std::jthread warmfonts()
 {
-    if (!reader.joinable())
-        return;
-    tell(Toolkit::notcoming);
-    reader.join();
-}
-
-void FontWarmup::tell(Toolkit news)
-{
-    toolkit = news;
-    toolkit.notify_one();
-}
-
-void FontWarmup::finish()
-{
-    reader.join();
-}
-
-void FontWarmup::run()
-{
-    // The toolkit itself has this library open.
-    const auto read = reinterpret_cast<int (*)()>(QLibrary::resolve(QStringLiteral("fontconfig"), 1, "FcInit"));
+    const auto read = std::bit_cast<int (*)()>(QLibrary::resolve(QStringLiteral("fontconfig"), 1, "FcInit"));
     if (!read)
-        return;
-    read();
-    toolkit.wait(Toolkit::awaited);
-    if (toolkit == Toolkit::made)
-        QFontDatabase::families();
+        return {};
+    try {
+        return std::jthread([read] { read(); });
+    } catch (const std::system_error&) {
+        return {}; // the start only takes longer
+    }
 }
 
 } // namespace app

@@ -111,6 +111,8 @@ void NeckPanel::paintbackdrop(QPainter& painter, const ui::Look& look)
 {
     const QRect place = look.place(neckreach(session.fretboard));
     const double scale = painter.device()->devicePixelRatioF();
+    if (scale != qRound(scale)) // a copy would be blurred
+        return paintneck(painter, look, session.fretboard);
     const Pictured wanted{session.fretboard.hand, session.fretboard.layout, look.zoom(), &look.theme(), scale};
     if (pictured != wanted) {
         pictured = wanted;

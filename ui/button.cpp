@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "ui/button.h"
 
+#include "ui/keys.h"
 #include "ui/marks.h"
 
 #include <QFontMetricsF>
@@ -94,6 +95,17 @@ void Button::paintEvent(QPaintEvent* /*event*/)
     painttext(painter, look, QRectF(rect()).adjusted(margin, 0, -margin, 0), caption(),
               look.font(font().bold() ? Type::strong : Type::text), ink());
     ring.paint(painter, look, *this, rect(), corner);
+}
+
+/// Enter presses the button that shows the ring; else it is left to the screen.
+void Button::keyPressEvent(QKeyEvent* event)
+{
+    if (event->key() != Qt::Key_Return && event->key() != Qt::Key_Enter)
+        QPushButton::keyPressEvent(event);
+    else if (isenter(*event) && ring.bykeys())
+        click();
+    else
+        event->ignore();
 }
 
 void Button::focusInEvent(QFocusEvent* event)

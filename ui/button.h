@@ -31,14 +31,12 @@ public:
     /// Heavier type, readable as `font().bold()` too.
     void setbold(bool bold);
 
-    /// Whether the keyboard brought the focus here.
-    bool usedbykeys() const { return ring.bykeys(); }
-
     QSize sizeHint() const override;
 
 protected:
     void paintEvent(QPaintEvent* event) override;
     void focusInEvent(QFocusEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
 
 private:
     Button(const Look& shownlook, const QString& caption, QWidget* parent, Shape drawn, Qt::ArrowType pointing);

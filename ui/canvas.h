@@ -30,8 +30,8 @@ public:
 
     /// Puts a control, made with this canvas as its parent, at its place.
     void place(QWidget* control, const TwipRect& where);
-    /// The same for many controls, all of which stay `within` an area: it is painted once, at
-    /// the end, instead of with each of them.
+    /// The same for many controls, all of which stay `within` an area: it is painted once, at the end, instead of with
+    /// each of them.
     void placeall(const std::vector<Placed>& moved, const TwipRect& within);
     /// Paints behind the controls, over the backdrops added before, whenever something within `where` is painted.
     void addbackdrop(const TwipRect& where, Painting paint) { backdrops.push_back({where, std::move(paint)}); }

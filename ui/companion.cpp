@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "ui/companion.h"
 
+#include "ui/keys.h"
 #include "ui/partstyle.h"
 
 #include <QAccessibleWidget>
@@ -105,13 +106,15 @@ void Companion::takefreesize(QSize opening, double zoombefore, QSize room)
 void Companion::dress()
 {
     const double before = look.zoom();
+    const QSize sizebefore = size();
     const QSize room = screen()->availableGeometry().size() * usable;
     applyzoom(followed.zoom());
     shrinkinto(room);
     takesize(before, room);
     if (!opened)
         centre();
-    keepondisplay();
+    if (!opened || size() != sizebefore) // where a person has put it, it may stay as long as it does not grow
+        keepondisplay();
     opened = true;
     dressed();
 }
@@ -148,17 +151,15 @@ void Companion::showEvent(QShowEvent* event)
         return; // back from the desktop's edge, where it stood
     opened = false;
     dress();
+    if (pressedbyenter)
+        pressedbyenter->setFocus(Qt::OtherFocusReason);
 }
 
 void Companion::keyPressEvent(QKeyEvent* event)
 {
-    const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
-    const auto* reached = qobject_cast<Button*>(focusWidget());
-    if (event->key() == Qt::Key_Escape)
+    if (event->key() == Qt::Key_Escape && isplain(*event))
         close();
-    else if (enter && reached && reached->usedbykeys())
-        static_cast<Button*>(focusWidget())->click();
-    else if (enter && pressedbyenter)
+    else if (isenter(*event) && pressedbyenter)
         pressedbyenter->click();
     else
         QMainWindow::keyPressEvent(event);

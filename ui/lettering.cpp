@@ -5,8 +5,11 @@
 #include <QTextOption>
 
 #include <memory>
+#include <string_view>
 
 namespace ui {
+
+using namespace std::string_view_literals;
 
 Lettering& Lettering::operator=(const Lettering& other)
 {
@@ -20,7 +23,10 @@ const QStaticText& Lettering::line(const QString& text, const QFont& font)
     const Key key{text, font.pixelSize(), font.weight()};
     if (const QStaticText* found = kept.object(key))
         return *found;
-    auto made = std::make_unique<QStaticText>(text);
+    QString shown = text;
+    for (const char16_t space : u"\n\r\t\u2028\u2029"sv)
+        shown.replace(QChar(space), QLatin1Char(' '));
+    auto made = std::make_unique<QStaticText>(shown);
     made->setTextFormat(Qt::PlainText);
     QTextOption oneline;
     oneline.setWrapMode(QTextOption::NoWrap);

@@ -14,9 +14,11 @@ class Lettering {
 public:
     Lettering() = default;
     Lettering(const Lettering& /*other*/) {}
+    ~Lettering() = default;
     Lettering& operator=(const Lettering& other);
 
-    /// A text as it stands in a font; its size is in pixels. Holds until the next is asked for.
+    /// A text as it stands in a font, its line ends and tabs as blanks; its size is in pixels. Holds until the next is
+    /// asked for.
     const QStaticText& line(const QString& text, const QFont& font);
 
     void clear() { kept.clear(); }

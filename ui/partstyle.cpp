@@ -23,11 +23,13 @@ void painttick(QPainter& painter, const QRectF& box, const QColor& colour)
     QPainterPath path(at(0.25, 0.52));
     path.lineTo(at(0.43, 0.7));
     path.lineTo(at(0.76, 0.32));
+    painter.setRenderHint(QPainter::Antialiasing);
     painter.strokePath(path, QPen(colour, box.width() / 8, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
 }
 
 void paintdot(QPainter& painter, const QRectF& box, const QColor& colour)
 {
+    painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(Qt::NoPen);
     painter.setBrush(colour);
     painter.drawEllipse(box.center(), box.width() / 5, box.height() / 5);

@@ -4,6 +4,8 @@
 
 #include <QLibrary>
 
+#include <bit>
+
 namespace ui {
 
 // The toolkit hands over its file as the last thing that it does with a job and drops the answer; CUPS's own library,
@@ -11,13 +13,14 @@ namespace ui {
 // every start.
 std::string queuerefusal()
 {
-    constexpr int firstfailure = 0x0300; // of the answers that cupsLastError gives
+    constexpr int firstfailure = 0x0200; // of the answers that cupsLastError gives
     QLibrary cups(QStringLiteral("cups"), 2);
-    const auto answer = reinterpret_cast<int (*)()>(cups.resolve("cupsLastError"));
-    const auto words = reinterpret_cast<const char* (*)()>(cups.resolve("cupsLastErrorString"));
+    const auto answer = std::bit_cast<int (*)()>(cups.resolve("cupsLastError"));
+    const auto words = std::bit_cast<const char* (*)()>(cups.resolve("cupsLastErrorString"));
     if (!answer || !words || answer() < firstfailure)
         return {};
-    return words();
+    const char* told = words();
+    return told ? told : "The print queue refused the job.";
 }
 
 } // namespace ui

@@ -41,6 +41,7 @@ void paintchevron(QPainter& painter, const Look& look, const QPointF& middle, co
     QPainterPath path(middle + QPointF(-reach, -reach / 2));
     path.lineTo(middle + QPointF(0, reach / 2));
     path.lineTo(middle + QPointF(reach, -reach / 2));
+    painter.setRenderHint(QPainter::Antialiasing);
     painter.strokePath(path, QPen(colour, 1.5 * look.zoom(), Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
 }
 

@@ -34,6 +34,7 @@ class Stamps {
 public:
     Stamps() = default;
     Stamps(const Stamps& /*other*/) {}
+    ~Stamps() = default;
     Stamps& operator=(const Stamps& other);
 
     /// Puts a shape's upper left corner at `place`. `paint` paints the shape with that corner at `Stamp::within`.

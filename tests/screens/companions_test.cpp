@@ -152,6 +152,30 @@ TEST_F(CompanionKeys, enterOnAButtonWithTheRing_pressesThatButton)
     EXPECT_TRUE(about->isVisible());
 }
 
+TEST_F(CompanionKeys, enterHeldOrWithAnotherKey_pressesNothing)
+{
+    session.rtbprint_Change("a page");
+    pick(QStringLiteral("mnuprintchord"));
+    QWidget* dialog = companion("printdialog");
+    QKeyEvent held(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, QStringLiteral("\r"), true);
+    QApplication::sendEvent(dialog, &held);
+    QTest::keyClick(dialog, Qt::Key_Return, Qt::ControlModifier);
+    QTest::keyClick(dialog, Qt::Key_Escape, Qt::ShiftModifier);
+    EXPECT_TRUE(dialog->isVisible());
+    EXPECT_EQ(desktop.printed.size(), 0U);
+    QTest::keyClick(dialog, Qt::Key_Return);
+    EXPECT_EQ(desktop.printed.size(), 1U);
+}
+
+TEST_F(CompanionKeys, screenWithAnOwnButton_opensWithTheKeyboardThere)
+{
+    session.rtbprint_Change("a page");
+    pick(QStringLiteral("mnuprintchord"));
+    EXPECT_EQ(companion("printdialog")->focusWidget(), control(QStringLiteral("cmdprint"), companion("printdialog")));
+    pick(QStringLiteral("mnubhelp"));
+    EXPECT_EQ(companion("mhelp")->focusWidget(), control(QStringLiteral("cmdreturn"), companion("mhelp")));
+}
+
 TEST_F(CompanionKeys, documentInAnotherLook_staysWhereItWasRead)
 {
     pick(QStringLiteral("mnuchelp"));

@@ -109,6 +109,14 @@ std::pair<int, int> inked(const QImage& picture)
     return {first, last};
 }
 
+TEST(Text, lineEndsAndTabs_areBlanks)
+{
+    ui::Lettering lettering;
+    const QFont font = ui::Look().font(ui::Type::text);
+    EXPECT_EQ(lettering.line(QStringLiteral("a\nb\tc\r"), font).size(),
+              lettering.line(QStringLiteral("a b c "), font).size());
+}
+
 TEST(Text, alignment_setsTheSide)
 {
     const ui::Look look;
