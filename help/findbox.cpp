@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "help/findbox.h"
 
-#include <QKeyEvent>
+#include "ui/keys.h"
 
 namespace help {
 namespace {
@@ -19,8 +19,7 @@ bool bringslineend(const QKeyEvent& event)
 
 void FindBox::keyPressEvent(QKeyEvent* event)
 {
-    const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
-    if (enter || !bringslineend(*event))
+    if (ui::isenter(*event) || !bringslineend(*event))
         return QLineEdit::keyPressEvent(event);
     event->accept();
     Q_EMIT returnPressed();

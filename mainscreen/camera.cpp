@@ -11,9 +11,6 @@ namespace {
 
 using print::CameraMode;
 
-constexpr std::size_t root = 6;
-constexpr std::size_t alternateroot = 7;
-
 std::array<bool, print::pianokeys> pressedkeys(const Keyboard& keyboard)
 {
     std::array<bool, print::pianokeys> pressed{};
@@ -96,8 +93,8 @@ bool Session::photograph()
     auto& line = camera.snapshot.line;
     camera.fingering = print::chordlength(fretboard, PositionFret, page.chkalt);
     camera.BlockWidth = camera.fingering.width();
-    line[print::chordnameline] = note[root] + " " + cordtyp1;
-    line[print::alternateline] = note[alternateroot] + " " + cordtyp2;
+    line[print::chordnameline] = note[rootreadout] + " " + cordtyp1;
+    line[print::alternateline] = note[alternatereadout] + " " + cordtyp2;
     line[print::notesline] = print::notenames(note);
     for (const std::size_t i : {print::chordnameline, print::alternateline, print::notesline})
         widen(camera.BlockWidth, line.at(i));

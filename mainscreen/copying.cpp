@@ -5,9 +5,6 @@
 namespace mainscreen {
 namespace {
 
-constexpr std::size_t root = 6;
-constexpr std::size_t alternateroot = 7;
-
 std::string trimmed(const std::string& text)
 {
     const std::size_t first = text.find_first_not_of(' ');
@@ -27,13 +24,13 @@ std::string chordname(const std::string& rootname, const std::string& type)
 std::string Session::chordtext() const
 {
     const std::string notes = trimmed(print::notenames(note));
-    const std::string name = chordname(note[root], cordtyp1);
+    const std::string name = chordname(note[rootreadout], cordtyp1);
     return name.empty() || notes.empty() ? notes : name + ": " + notes;
 }
 
 std::string Session::announcement() const
 {
-    const std::string alternate = chordname(note[alternateroot], cordtyp2);
+    const std::string alternate = chordname(note[alternatereadout], cordtyp2);
     return alternate.empty() ? chordtext() : chordtext() + "; also " + alternate;
 }
 

@@ -25,7 +25,7 @@ struct MenuRow {
     Kind kind;
     const char* name;
     const char* caption;
-    void (Session::*handler)() = nullptr;     ///< none: nothing to do yet, the item is disabled
+    void (Session::*handler)() = nullptr;     ///< none: a menu, or a separator
     bool (*mark)(const Session&) = nullptr;   ///< the state of its check mark
     QKeyCombination keys{};                   ///< what picks it without the menu
     bool (*usable)(const Session&) = nullptr; ///< whether it can be picked; none: always
@@ -110,7 +110,6 @@ QAction* additem(QMenu& menu, const MenuRow& row, Session& session, ui::Stage& s
     action->setObjectName(QString::fromLatin1(row.name));
     action->setSeparator(row.kind == Kind::separator);
     action->setCheckable(row.kind == Kind::check);
-    action->setEnabled(row.handler != nullptr || action->isSeparator());
     if (row.keys != nokeys)
         action->setShortcut(row.keys);
     if (row.keys == QKeyCombination(Qt::Key_F1))

@@ -131,7 +131,8 @@ void NeckPanel::placecells()
     const instruments::Fretboard& board = session.fretboard;
     std::vector<ui::Canvas::Placed> moved{
         {fretcaption,
-         {instruments::handrow(board.hand).captionleft, neckplace(board).bottom() + 2 * px, 60 * px, 14 * px}}};
+         {instruments::handrow(board.hand).captionleft, neckplace(board).bottom() + places::numbergap, 60 * px,
+          places::numberheight}}};
     for (int i = 0; i < instruments::cellcount; ++i) {
         const int fret = i / instruments::rowcount;
         moved.push_back({Text1.at(static_cast<std::size_t>(i)),

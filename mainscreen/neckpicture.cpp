@@ -22,8 +22,6 @@ using ui::Twips;
 
 constexpr std::array<int, 8> inlayfrets{3, 5, 7, 9, 12, 15, 17, 19};
 constexpr Twips nutwidth = 6 * px;
-constexpr Twips numbergap = 2 * px; ///< below the wood
-constexpr Twips numberheight = 14 * px;
 constexpr Twips headreach = 11 * px; ///< of the strings beyond their open cells
 
 Twips columnleft(int fret, Hand hand)
@@ -157,7 +155,8 @@ void paintstring(QPainter& painter, const Look& look, const Fretboard& board, in
 void paintnumbers(QPainter& painter, const Look& look, const TwipRect& neck, Hand hand)
 {
     for (const int fret : inlayfrets) {
-        const TwipRect where{columnmiddle(fret, hand) - 15 * px, neck.bottom() + numbergap, 30 * px, numberheight};
+        const TwipRect where{columnmiddle(fret, hand) - 15 * px, neck.bottom() + places::numbergap, 30 * px,
+                             places::numberheight};
         ui::painttext(painter, look, look.exact(where), QString::number(fret), look.font(ui::Type::heading),
                       look.theme().label);
     }
@@ -184,7 +183,7 @@ TwipRect neckreach(const Fretboard& fretboard)
     const instruments::HandRow& ends = instruments::handrow(fretboard.hand);
     const Twips left = std::min(ends.segmentleft, columnleft(0, fretboard.hand) - headreach);
     const Twips right = std::max(ends.segmentright, columnright(0, fretboard.hand) + headreach);
-    return {left, wood.top, right - left, wood.height + numbergap + numberheight};
+    return {left, wood.top, right - left, wood.height + places::numbergap + places::numberheight};
 }
 
 void paintneck(QPainter& painter, const Look& look, const Fretboard& fretboard)

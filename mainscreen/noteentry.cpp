@@ -3,11 +3,6 @@
 #include "mainscreen/session.h"
 
 namespace mainscreen {
-namespace {
-
-constexpr std::size_t rootreadout = 6;
-
-} // namespace
 
 void Session::key_Click(int index)
 {

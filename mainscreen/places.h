@@ -121,6 +121,8 @@ inline constexpr TwipRect optionup{656 * px, selectortop, 24 * px, 24 * px};
 // Neck
 inline constexpr Twips necktop = selectortop + 24 * px;
 inline constexpr TwipRect neckarea{0, necktop, area.width, area.height - necktop}; ///< with all that stands around it
+inline constexpr Twips numbergap = 2 * px; ///< between the wood and the numbers of the frets
+inline constexpr Twips numberheight = 14 * px;
 inline constexpr Twips widestcell = 345;
 inline constexpr Twips cellgap = 45;     ///< between neighbours where the columns stand closest
 inline constexpr Twips neckmargin = 105; ///< of wood above the first string's cells and below the last's

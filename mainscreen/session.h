@@ -26,6 +26,10 @@
 
 namespace mainscreen {
 
+// Places in `Session::note`.
+inline constexpr std::size_t rootreadout = 6;
+inline constexpr std::size_t alternatereadout = 7;
+
 enum class BoldButton : std::uint8_t { none, cmdsharp, cmdflat, cmdauto };
 
 /// Check marks of the menu "Sharps and Flats", by item, and the one of the three buttons that is bold.
@@ -244,7 +248,7 @@ public:
     std::string chordtext() const; ///< "C major: C E G", the notes alone where they have no name; empty without notes
     std::string announcement() const; ///< the same with the alternate: "C minor 7th: C Eb G Bb; also Eb major 6th"
     bool cancopychord() const { return !chordtext().empty(); }
-    bool cancopychart() const { return !print::lastchart(camera).empty(); }
+    bool cancopychart() const { return print::haschart(camera); }
     void mnucopychord_Click(); ///< puts `chordtext` on the clipboard
     void mnucopychart_Click(); ///< puts the last snapshot there, as the page would get it
 

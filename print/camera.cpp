@@ -119,9 +119,14 @@ std::string takeblock(Camera& camera)
     return text;
 }
 
+bool haschart(const Camera& camera)
+{
+    return !camera.snapshot.line[chordnameline].empty();
+}
+
 std::string lastchart(Camera camera)
 {
-    if (camera.snapshot.line[chordnameline].empty())
+    if (!haschart(camera))
         return {};
     place(camera);
     constexpr std::size_t emptylines = 2; // before a block

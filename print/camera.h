@@ -72,6 +72,9 @@ void place(Camera& camera);
 /// Takes the pending block as text, a line feed behind each line, and leaves it empty. Precondition: `pending`.
 std::string takeblock(Camera& camera);
 
+/// Whether a snapshot was taken since the last clear.
+bool haschart(const Camera& camera);
+
 /// The last snapshot by itself as the page would get it, a line feed behind each line; empty: there is none.
 std::string lastchart(Camera camera);
 

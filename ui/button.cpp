@@ -100,9 +100,9 @@ void Button::paintEvent(QPaintEvent* /*event*/)
 /// Enter presses the button that shows the ring; else it is left to the screen.
 void Button::keyPressEvent(QKeyEvent* event)
 {
-    if (event->key() != Qt::Key_Return && event->key() != Qt::Key_Enter)
+    if (!isenter(*event))
         QPushButton::keyPressEvent(event);
-    else if (isenter(*event) && ring.bykeys())
+    else if (isplain(*event) && ring.bykeys())
         click();
     else
         event->ignore();

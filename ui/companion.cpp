@@ -159,7 +159,7 @@ void Companion::keyPressEvent(QKeyEvent* event)
 {
     if (event->key() == Qt::Key_Escape && isplain(*event))
         close();
-    else if (isenter(*event) && pressedbyenter)
+    else if (isenter(*event) && isplain(*event) && pressedbyenter)
         pressedbyenter->click();
     else
         QMainWindow::keyPressEvent(event);

@@ -13,10 +13,10 @@ inline bool isplain(const QKeyEvent& event)
     return !event.isAutoRepeat() && (event.modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier;
 }
 
-/// Whether Enter was pressed so, on either part of the keyboard.
+/// Whether a key is Enter, on either part of the keyboard.
 inline bool isenter(const QKeyEvent& event)
 {
-    return isplain(event) && (event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter);
+    return event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
 }
 
 } // namespace ui

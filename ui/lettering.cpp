@@ -11,13 +11,6 @@ namespace ui {
 
 using namespace std::string_view_literals;
 
-Lettering& Lettering::operator=(const Lettering& other)
-{
-    if (this != &other)
-        clear();
-    return *this;
-}
-
 const QStaticText& Lettering::line(const QString& text, const QFont& font)
 {
     const Key key{text, font.pixelSize(), font.weight()};

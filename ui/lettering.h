@@ -2,7 +2,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <QCache>
+#include "ui/kept.h"
+
 #include <QFont>
 #include <QStaticText>
 
@@ -12,11 +13,6 @@ namespace ui {
 /// family of type. A copy of this begins with none.
 class Lettering {
 public:
-    Lettering() = default;
-    Lettering(const Lettering& /*other*/) {}
-    ~Lettering() = default;
-    Lettering& operator=(const Lettering& other);
-
     /// A text as it stands in a font, its line ends and tabs as blanks; its size is in pixels. Holds until the next is
     /// asked for.
     const QStaticText& line(const QString& text, const QFont& font);
@@ -38,7 +34,7 @@ private:
 
     static constexpr int mostlines = 500;
 
-    QCache<Key, QStaticText> kept{mostlines};
+    Kept<Key, QStaticText> kept{mostlines};
 };
 
 } // namespace ui

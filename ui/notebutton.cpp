@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "ui/notebutton.h"
 
-#include <QKeyEvent>
+#include "ui/keys.h"
 
 namespace ui {
 
@@ -31,7 +31,7 @@ void NoteButton::focusInEvent(QFocusEvent* event)
 
 void NoteButton::keyPressEvent(QKeyEvent* event)
 {
-    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
+    if (isenter(*event))
         click();
     else
         QAbstractButton::keyPressEvent(event);

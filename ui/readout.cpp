@@ -2,9 +2,9 @@
 // SPDX-License-Identifier: MIT
 #include "ui/readout.h"
 
+#include "ui/access.h"
 #include "ui/paint.h"
 
-#include <QAccessible>
 #include <QAccessibleWidget>
 #include <QPainter>
 
@@ -31,18 +31,12 @@ private:
     const Readout& readout;
 };
 
-QAccessibleInterface* readoutinterface(const QString& /*type*/, QObject* object)
-{
-    auto* readout = qobject_cast<Readout*>(object);
-    return readout ? new ReadoutInterface(readout) : nullptr;
-}
-
 } // namespace
 
 Readout::Readout(const Look& shownlook, Type written, Frame drawn, Qt::Alignment placed, QWidget* parent)
     : QWidget(parent), look(shownlook), type(written), frame(drawn), alignment(placed)
 {
-    QAccessible::installFactory(readoutinterface);
+    QAccessible::installFactory(interfaceof<Readout, ReadoutInterface>);
 }
 
 void Readout::settext(const QString& text)
@@ -51,10 +45,7 @@ void Readout::settext(const QString& text)
         return;
     shown = text;
     update();
-    if (!QAccessible::isActive())
-        return;
-    QAccessibleEvent renamed(this, QAccessible::NameChanged);
-    QAccessible::updateAccessibility(&renamed);
+    tellrenamed(this);
 }
 
 QString Readout::spokenname() const

@@ -2,10 +2,10 @@
 // SPDX-License-Identifier: MIT
 #include "ui/selectoraccess.h"
 
+#include "ui/access.h"
 #include "ui/selectorbox.h"
 
 #include <QAbstractItemView>
-#include <QAccessible>
 #include <QAccessibleWidget>
 
 namespace ui {
@@ -55,10 +55,9 @@ private:
 
 } // namespace
 
-QAccessibleInterface* selectorinterface(const QString& /*type*/, QObject* object)
+QAccessibleInterface* selectorinterface(const QString& type, QObject* object)
 {
-    auto* box = qobject_cast<SelectorBox*>(object);
-    return box ? new SelectorInterface(box) : nullptr;
+    return interfaceof<SelectorBox, SelectorInterface>(type, object);
 }
 
 } // namespace ui

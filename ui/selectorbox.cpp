@@ -2,10 +2,10 @@
 // SPDX-License-Identifier: MIT
 #include "ui/selectorbox.h"
 
+#include "ui/access.h"
 #include "ui/selectoraccess.h"
 
 #include <QAbstractItemView>
-#include <QAccessible>
 #include <QApplication>
 #include <QKeyEvent>
 #include <QPainter>
@@ -90,10 +90,7 @@ void SelectorBox::display(const QStringList& items, int index, const QString& te
         return;
     shown = text;
     update();
-    if (!QAccessible::isActive())
-        return;
-    QAccessibleEvent renamed(this, QAccessible::NameChanged);
-    QAccessible::updateAccessibility(&renamed);
+    tellrenamed(this);
 }
 
 void SelectorBox::showPopup()

@@ -2,7 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "ui/spoken.h"
 
-#include <QAccessible>
+#include "ui/access.h"
+
 #include <QAccessibleWidget>
 
 namespace ui {
@@ -23,17 +24,11 @@ private:
     const Spoken& notice;
 };
 
-QAccessibleInterface* spokeninterface(const QString& /*type*/, QObject* object)
-{
-    auto* spoken = qobject_cast<Spoken*>(object);
-    return spoken ? new SpokenInterface(spoken) : nullptr;
-}
-
 } // namespace
 
 Spoken::Spoken(QWidget* parent) : QWidget(parent)
 {
-    QAccessible::installFactory(spokeninterface);
+    QAccessible::installFactory(interfaceof<Spoken, SpokenInterface>);
     setAttribute(Qt::WA_TransparentForMouseEvents);
     setFixedSize(1, 1); // what has no place on the screen is not read
 }
@@ -43,11 +38,8 @@ void Spoken::say(const QString& words)
     if (said == words)
         return;
     said = words;
-    if (!QAccessible::isActive())
-        return;
-    QAccessibleEvent renamed(this, QAccessible::NameChanged);
-    QAccessible::updateAccessibility(&renamed);
-    if (said.isEmpty())
+    tellrenamed(this);
+    if (said.isEmpty() || !QAccessible::isActive())
         return;
     QAccessibleEvent appeared(this, QAccessible::ObjectShow); // a notice is read when it appears
     QAccessible::updateAccessibility(&appeared);

@@ -20,13 +20,6 @@ size_t qHash(const Stamp& stamp, size_t seed) noexcept
                       stamp.edge, stamp.corner, stamp.pressed, stamp.within.x(), stamp.within.y());
 }
 
-Stamps& Stamps::operator=(const Stamps& other)
-{
-    if (this != &other)
-        clear();
-    return *this;
-}
-
 void Stamps::put(QPainter& painter, const QPointF& place, Stamp stamp,
                  const std::function<void(QPainter&, const QPointF& within)>& paint)
 {

@@ -2,7 +2,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <QCache>
+#include "ui/kept.h"
+
 #include <QPainter>
 #include <QPixmap>
 
@@ -32,11 +33,6 @@ struct Stamp {
 /// for one zoom. A copy of this begins with none.
 class Stamps {
 public:
-    Stamps() = default;
-    Stamps(const Stamps& /*other*/) {}
-    ~Stamps() = default;
-    Stamps& operator=(const Stamps& other);
-
     /// Puts a shape's upper left corner at `place`. `paint` paints the shape with that corner at `Stamp::within`.
     /// Not kept, but painted each time, are large shapes, and all of them where device pixels are no whole part of a
     /// pixel: a copy would be blurred there.
@@ -48,7 +44,7 @@ public:
 private:
     static constexpr int mostbytes = 2 << 20;
 
-    QCache<Stamp, QPixmap> kept{mostbytes};
+    Kept<Stamp, QPixmap> kept{mostbytes};
 };
 
 } // namespace ui
