@@ -66,6 +66,7 @@ int main(int argc, char** argv)
     if (arguments.userdata)
         useuserdata(desktop);
     app::Program program(desktop);
+    program.open();
     if (fonts.joinable())
         fonts.join();
     program.start();

@@ -77,6 +77,7 @@ public:
         session.noteentry(root);
         session.Crd_Click(0);
         screen.centre();
+        screen.furnish();
         screen.display();
     }
 

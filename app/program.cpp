@@ -33,11 +33,16 @@ Program::Program(ui::QtDesktop& opened)
     desktop.add(ui::Screen::frmAbout, [this](QWidget* owner) { return makeabout(owner); });
 }
 
-void Program::start()
+void Program::open()
 {
     mainscreen.centre();
-    stage.act([this] { session.Form_Load(); });
     mainscreen.show();
+}
+
+void Program::start()
+{
+    mainscreen.furnish();
+    stage.act([this] { session.Form_Load(); });
 }
 
 void Program::display()

@@ -23,10 +23,14 @@ namespace app {
 /// The program's parts, made and joined: the state, the desktop and the screens.
 class Program {
 public:
-    /// Makes everything over a desktop; nothing is shown until `start`.
+    /// Makes everything over a desktop; nothing is shown until `open`.
     explicit Program(ui::QtDesktop& opened);
 
-    /// Loads the state and opens the main screen.
+    /// Opens the main screen's window, with nothing on it yet: the display makes room for it while the rest is made,
+    /// and nobody waits longer for a window than for that of an empty program.
+    void open();
+
+    /// Puts the controls on the main screen, and loads the state. After `open`.
     void start();
 
     ui::QtDesktop& desktop;

@@ -60,6 +60,7 @@ class Bench {
 public:
     Bench()
     {
+        program.open();
         program.start();
         settle();
     }

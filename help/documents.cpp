@@ -2,22 +2,25 @@
 // SPDX-License-Identifier: MIT
 #include "help/documents.h"
 
+#include <algorithm>
+#include <cstdint>
 #include <fstream>
 
 namespace help {
 namespace {
 
-constexpr std::size_t mostbytes = std::size_t{16} << 20U;
+constexpr std::uintmax_t mostbytes = std::uintmax_t{16} << 20U;
 
 std::optional<std::string> readfile(const std::filesystem::path& path)
 {
     std::error_code unreadable;
-    if (!std::filesystem::is_regular_file(path, unreadable))
+    const std::uintmax_t size = std::filesystem::file_size(path, unreadable);
+    if (unreadable || !std::filesystem::is_regular_file(path, unreadable))
         return std::nullopt;
     std::ifstream file(path, std::ios::binary);
     if (!file)
         return std::nullopt;
-    std::string bytes(mostbytes, '\0');
+    std::string bytes(static_cast<std::size_t>(std::min(size, mostbytes)), '\0');
     file.read(bytes.data(), static_cast<std::streamsize>(bytes.size()));
     if (file.bad())
         return std::nullopt;

@@ -9,7 +9,9 @@
 #include <QTextTable>
 
 #include <algorithm>
+#include <map>
 #include <span>
+#include <tuple>
 
 namespace help {
 namespace {
@@ -28,6 +30,13 @@ int columnof(const Paragraph& p)
     return placeof(p).column;
 }
 
+using FormatKey = std::tuple<bool, bool, bool, bool, int, std::optional<std::uint32_t>>;
+
+FormatKey keyof(const RunFormat& format)
+{
+    return {format.bold, format.italic, format.underline, format.fixed, format.size, format.colour};
+}
+
 class Writer {
 public:
     Writer(QTextDocument& document, const ui::Look& shown) : cursor(&document), look(shown) {}
@@ -38,11 +47,13 @@ public:
 private:
     QTextTableFormat tableformat() const;
     QTextBlockFormat blockformat(const ParagraphFormat& format) const;
-    QTextCharFormat charformat(const RunFormat& format) const;
+    const QTextCharFormat& charformat(const RunFormat& format);
+    QTextCharFormat newcharformat(const RunFormat& format) const;
     QColor readable(std::uint32_t colour) const;
-    void runs(QTextCursor& at, const Paragraph& p) const;
+    void runs(QTextCursor& at, const Paragraph& p);
 
     QTextCursor cursor;
+    std::map<FormatKey, QTextCharFormat> charformats; ///< each made once: a document has few
     const ui::Look& look;
     bool fresh = true; ///< the block at the cursor is empty and to be used
 };
@@ -55,7 +66,7 @@ void Writer::paragraph(const Paragraph& p)
     runs(cursor, p);
 }
 
-void Writer::runs(QTextCursor& at, const Paragraph& p) const
+void Writer::runs(QTextCursor& at, const Paragraph& p)
 {
     at.setBlockFormat(blockformat(p.format));
     at.setBlockCharFormat(p.runs.empty() ? QTextCharFormat() : charformat(p.runs.front().format));
@@ -114,7 +125,15 @@ QTextBlockFormat Writer::blockformat(const ParagraphFormat& format) const
     return block;
 }
 
-QTextCharFormat Writer::charformat(const RunFormat& format) const
+const QTextCharFormat& Writer::charformat(const RunFormat& format)
+{
+    const auto [made, isnew] = charformats.try_emplace(keyof(format));
+    if (isnew)
+        made->second = newcharformat(format);
+    return made->second;
+}
+
+QTextCharFormat Writer::newcharformat(const RunFormat& format) const
 {
     QFont font = format.fixed ? QFontDatabase::systemFont(QFontDatabase::FixedFont) : look.font(ui::Type::text);
     font.setPixelSize(std::max(1, qRound(format.size * pixelsperhalfpoint * look.zoom())));

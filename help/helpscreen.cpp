@@ -8,8 +8,10 @@
 #include "ui/text.h"
 
 #include <QBoxLayout>
+#include <QPointer>
 #include <QScrollBar>
 #include <QShowEvent>
+#include <QTextDocument>
 
 #include <array>
 #include <utility>
@@ -39,7 +41,6 @@ HelpScreen::HelpScreen(const ui::Look& mainlook, std::vector<Paragraph> paragrap
     dressparts();
     setcontent(arrange());
     dataload();
-    loaddata();
     connect(cbo1, &ui::SelectorBox::picked, this, &HelpScreen::cbo1_Click);
     connect(findtext, &QLineEdit::returnPressed, this, &HelpScreen::findcommand);
 }
@@ -62,33 +63,31 @@ void HelpScreen::dataload()
 
 void HelpScreen::loaddata()
 {
-    helptext->setUndoRedoEnabled(false);
-    fit([this] { filldocument(); });
-    helptext->moveCursor(QTextCursor::Start);
-    search.loaddata(helptext->toPlainText().toStdU16String());
-}
-
-/// The document bears its fonts and colours in itself, so another look takes another filling. What is selected stays.
-void HelpScreen::filldocument()
-{
-    if (filledtheme == &look.theme() && filledzoom == look.zoom())
-        return;
     const Match selected{static_cast<std::size_t>(helptext->textCursor().selectionStart()),
                          static_cast<std::size_t>(helptext->textCursor().selectionEnd())};
-    if (filledtheme && !viewed)
-        viewed = helptext->cursorForPosition(QPoint()).position();
-    helptext->clear();
-    helptext->document()->setDocumentMargin(documentedge * look.zoom());
-    help::filldocument(*helptext->document(), document, look);
+    const QPointer<QTextDocument> before = helptext->document(); // the area deletes only that which it came with
+    auto* filled = new QTextDocument(helptext);
+    filled->setLayoutEnabled(false);
+    filled->setDocumentMargin(documentedge * look.zoom());
+    filldocument(*filled, document, look);
+    helptext->setDocument(filled);
+    filled->setLayoutEnabled(true);
+    delete before;
+    search.loaddata(filled->toPlainText().toStdU16String());
     select(selected);
-    filledtheme = &look.theme();
-    filledzoom = look.zoom();
 }
 
-/// Only now the document has the width that its lines break at.
+// The document bears its fonts and colours in itself, so another look takes another filling. The area has its size by
+// now: lines are broken once.
 void HelpScreen::dressed()
 {
-    if (const auto position = std::exchange(viewed, std::nullopt))
+    const std::optional<int> position = std::exchange(viewed, std::nullopt);
+    if (filledtheme == &look.theme() && filledzoom == look.zoom())
+        return;
+    loaddata();
+    filledtheme = &look.theme();
+    filledzoom = look.zoom();
+    if (position)
         scrollto(*position, 0);
 }
 
@@ -104,9 +103,12 @@ void HelpScreen::dressparts()
     helptext->setObjectName(QStringLiteral("helptext"));
     helptext->setAccessibleName(QStringLiteral("Help"));
     helptext->setReadOnly(true);
+    helptext->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn); // its coming would break all lines again
     helptext->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     fitarea(helptext);
-    fit([this] {
+    fit([this] { // before any size changes
+        if (filledtheme && !viewed)
+            viewed = helptext->cursorForPosition(QPoint()).position();
         cbo1->setMinimumSize(smallestindex * look.zoom());
         findtext->setMinimumWidth(scaled(smallestfind.width()));
     });

@@ -32,7 +32,6 @@ private:
     void initvar();
     void dataload();
     void loaddata();
-    void filldocument();
     void dressparts();
     QLayout* arrange();
     void cbo1_Click(int item);
@@ -44,7 +43,7 @@ private:
     std::vector<Paragraph> document;
     const ui::Theme* filledtheme = nullptr; ///< that the document's colours are of
     double filledzoom = 0;                  ///< that its fonts are of
-    std::optional<int> viewed;              ///< the position at the upper edge, of a document that was filled anew
+    std::optional<int> viewed;              ///< the position at the upper edge, while the look changes
     Search search;
     QStringList titles;
     ui::SelectorBox* cbo1;

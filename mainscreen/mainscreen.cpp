@@ -28,20 +28,32 @@ constexpr double nearly = 0.01;     ///< zooms this close are the same
 constexpr double menupixels = 12;   ///< size of the menus' type at zoom 1
 constexpr double comfortable = 0.9; ///< of the display's free area, at most
 
+int menupixelsat(double zoom)
+{
+    return qRound(menupixels * zoom);
+}
+
 } // namespace
 
 MainScreen::MainScreen(Session& shown, ui::Stage& entered, ui::Look& shared)
     : session(shown),
       stage(entered),
       look(shared),
-      canvas(new ui::Canvas(look, QSize(places::area.width, places::area.height), this)),
-      menus(styledmenubar(), shown, entered)
+      canvas(new ui::Canvas(look, QSize(places::area.width, places::area.height), this))
 {
     setObjectName(QStringLiteral("tonefret"));
     setWindowTitle(QStringLiteral("tonefret"));
     setCentralWidget(canvas);
     connect(canvas, &ui::Canvas::zoomed, this, &MainScreen::lookchanged);
+    canvas->hide();
+}
+
+void MainScreen::furnish()
+{
+    menuBar()->setStyle(new ui::PartStyle(look, this)); // while it is empty: menus would be measured for each style
+    menus.emplace(*menuBar(), session, stage);
     dressmenubar();
+    scalemenubar(canvas->zoomin(size()));
     panels.push_back(std::make_unique<PianoPanel>(*canvas, session, stage));
     auto output = std::make_unique<OutputPanel>(*canvas, session, stage);
     auto takefocus = [panel = output.get()](bool bykeys) { panel->focusreset(bykeys); };
@@ -92,14 +104,21 @@ void MainScreen::addzoomkeys()
 void MainScreen::sizeto(double zoom)
 {
     scalemenubar(zoom);
-    resize(canvas->sizeat(zoom) + QSize(0, menuBar()->sizeHint().height()));
+    resize(canvas->sizeat(zoom) + QSize(0, ui::PartStyle::menubarheight(menupixelsat(zoom))));
 }
 
 void MainScreen::display()
 {
-    menus.display();
+    menus->display();
     for (const auto& panel : panels)
         panel->display();
+    displaytips();
+    menuBar()->show();
+    canvas->show();
+}
+
+void MainScreen::displaytips()
+{
     if (showntips == session.tips)
         return;
     showntips = session.tips;
@@ -120,13 +139,6 @@ void MainScreen::centre()
     move(qRound(left), qRound(top));
 }
 
-/// The menu bar while it is empty: menus would be measured for each style.
-QMenuBar& MainScreen::styledmenubar()
-{
-    menuBar()->setStyle(new ui::PartStyle(look, this));
-    return *menuBar();
-}
-
 /// The menus stand on a card of their own above the paper.
 void MainScreen::dressmenubar()
 {
@@ -135,10 +147,15 @@ void MainScreen::dressmenubar()
 
 void MainScreen::scalemenubar(double zoom)
 {
+    if (!menus)
+        return;
+    const int pixels = menupixelsat(zoom);
     QFont font = menuBar()->font();
-    font.setPixelSize(qRound(menupixels * zoom));
-    if (font != menuBar()->font())
-        menuBar()->setFont(font);
+    if (font.pixelSize() == pixels)
+        return;
+    font.setPixelSize(pixels);
+    menuBar()->setFont(font);
+    menuBar()->setFixedHeight(ui::PartStyle::menubarheight(pixels));
 }
 
 // By the window, not by the canvas: the canvas gets what the menus leave, so each would chase the other.
@@ -154,7 +171,8 @@ void MainScreen::changeEvent(QEvent* event)
     if (event->type() != QEvent::PaletteChange)
         return;
     look.followpalette(palette());
-    dressmenubar();
+    if (menus)
+        dressmenubar();
     canvas->update();
     Q_EMIT lookchanged();
 }

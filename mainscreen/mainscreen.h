@@ -22,7 +22,10 @@ class MainScreen : public QMainWindow {
 public:
     MainScreen(Session& shown, ui::Stage& entered, ui::Look& shared);
 
-    /// Shows the session's state. Cheap when little has changed.
+    /// Puts the menus and the panels on the window, which may be open already; they are seen from the first `display`.
+    void furnish();
+
+    /// Shows the session's state. Cheap when little has changed. After `furnish`.
     void display();
 
     /// Takes the largest comfortable size on its display and stands in its middle.
@@ -41,7 +44,7 @@ private:
     void addzoomkeys();
     void onkeys(const QKeySequence& keys, std::function<void()> act);
     void sizeto(double zoom);
-    QMenuBar& styledmenubar();
+    void displaytips();
     void dressmenubar();
     void scalemenubar(double zoom);
 
@@ -49,7 +52,7 @@ private:
     ui::Stage& stage;
     ui::Look& look;
     ui::Canvas* canvas;
-    Menus menus;
+    std::optional<Menus> menus;
     std::vector<std::unique_ptr<Panel>> panels;
     std::optional<Tips> showntips;
 };

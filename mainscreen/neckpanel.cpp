@@ -9,8 +9,6 @@
 #include <QLinearGradient>
 #include <QPainter>
 
-#include <utility>
-
 namespace mainscreen {
 namespace {
 
@@ -18,6 +16,7 @@ using places::px;
 
 constexpr ui::Twips barwidth = 7 * px;
 constexpr ui::Twips followerwidth = 3 * px;
+constexpr std::size_t fewcells = 20;   ///< so many and fewer are faster painted one by one than with the whole neck
 constexpr ui::Twips overhang = 5 * px; ///< of the capo beyond the neck's upper edge
 
 /// The capo's bar, padded and dark, or the thin bright line behind it.
@@ -71,7 +70,9 @@ NeckPanel::NeckPanel(ui::Canvas& drawn, Session& shown, ui::Stage& entered)
         onclick(cell, &Session::Text1_Click, i);
         roving->add(cell);
         Text1.at(static_cast<std::size_t>(i)) = cell;
+        movable.push_back(cell);
     }
+    movable.push_back(fretcaption);
     placecells();
 }
 
@@ -129,39 +130,57 @@ void NeckPanel::paintbackdrop(QPainter& painter, const ui::Look& look)
 void NeckPanel::placecells()
 {
     const instruments::Fretboard& board = session.fretboard;
-    std::vector<ui::Canvas::Placed> moved{
-        {fretcaption,
-         {instruments::handrow(board.hand).captionleft, neckplace(board).bottom() + places::numbergap, 60 * px,
-          places::numberheight}}};
+    canvas.place(fretcaption, {instruments::handrow(board.hand).captionleft,
+                               neckplace(board).bottom() + places::numbergap, 60 * px, places::numberheight});
     for (int i = 0; i < instruments::cellcount; ++i) {
         const int fret = i / instruments::rowcount;
-        moved.push_back({Text1.at(static_cast<std::size_t>(i)),
-                         {instruments::columns.at(static_cast<std::size_t>(fret))[board.hand],
-                          board.rowtop.at(static_cast<std::size_t>(i % instruments::rowcount)),
-                          places::cellwidth(fret, board.hand), instruments::rowheight}});
+        canvas.place(Text1.at(static_cast<std::size_t>(i)),
+                     {instruments::columns.at(static_cast<std::size_t>(fret))[board.hand],
+                      board.rowtop.at(static_cast<std::size_t>(i % instruments::rowcount)),
+                      places::cellwidth(fret, board.hand), instruments::rowheight});
     }
-    canvas.placeall(moved, places::neckarea);
     shownhand = board.hand;
     shownlayout = board.layout;
 }
 
 void NeckPanel::display()
 {
-    if (shownhand != session.fretboard.hand || shownlayout != session.fretboard.layout)
-        placecells();
-    for (int i = 0; i < instruments::cellcount; ++i)
-        displaycell(i);
+    const bool moved = shownhand != session.fretboard.hand || shownlayout != session.fretboard.layout;
+    const std::vector<int> changed = changedcells();
+    const auto show = [&] {
+        if (moved)
+            placecells();
+        for (const int i : changed)
+            displaycell(i);
+    };
+    if (moved || changed.size() > fewcells)
+        canvas.atonce(movable, places::neckarea, show);
+    else
+        show();
     roving->leavehidden();
     displaycapo();
 }
 
-void NeckPanel::displaycell(int index)
+NeckPanel::Shown NeckPanel::wanted(int index) const
 {
     const auto& cells = session.fretboard.cell;
-    const instruments::Cell& state = cells.at(static_cast<std::size_t>(index));
-    const Shown now{state, cells.at(static_cast<std::size_t>(index % instruments::rowcount)).text};
-    if (std::exchange(onscreen.at(static_cast<std::size_t>(index)), now) == now)
-        return;
+    return {cells.at(static_cast<std::size_t>(index)),
+            cells.at(static_cast<std::size_t>(index % instruments::rowcount)).text};
+}
+
+std::vector<int> NeckPanel::changedcells() const
+{
+    std::vector<int> changed;
+    for (int i = 0; i < instruments::cellcount; ++i)
+        if (onscreen.at(static_cast<std::size_t>(i)) != wanted(i))
+            changed.push_back(i);
+    return changed;
+}
+
+void NeckPanel::displaycell(int index)
+{
+    const instruments::Cell& state = session.fretboard.cell.at(static_cast<std::size_t>(index));
+    onscreen.at(static_cast<std::size_t>(index)) = wanted(index);
     ui::NoteCell* cell = Text1.at(static_cast<std::size_t>(index));
     rename(cell, spokenname(index) + ui::spokenmark(state.back));
     cell->display(totext(state.text), state.back);

@@ -10,6 +10,8 @@
 
 #include <array>
 #include <optional>
+#include <string>
+#include <vector>
 
 namespace mainscreen {
 
@@ -42,6 +44,8 @@ private:
     };
 
     void paintbackdrop(QPainter& painter, const ui::Look& look);
+    Shown wanted(int index) const;
+    std::vector<int> changedcells() const;
     void displaycell(int index);
     QString spokenname(int index) const;
     void displaycapo();
@@ -54,6 +58,7 @@ private:
     ui::Readout* fretcaption = nullptr;
     ui::RovingFocus* roving = nullptr;
     std::array<ui::NoteCell*, instruments::cellcount> Text1{};
+    std::vector<QWidget*> movable; ///< what changes places with the hand: the cells and the caption
     std::optional<Pictured> pictured;
     QPixmap picture;
     std::array<std::optional<Shown>, instruments::cellcount> onscreen;

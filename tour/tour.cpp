@@ -60,8 +60,7 @@ public:
     {
         const auto* canvas = static_cast<const ui::Canvas*>(program.mainscreen.centralWidget());
         for (int turn = 0; turn < 2; ++turn)
-            program.mainscreen.resize(canvas->sizeat(zoom) +
-                                      QSize(0, program.mainscreen.menuBar()->sizeHint().height()));
+            program.mainscreen.resize(canvas->sizeat(zoom) + QSize(0, program.mainscreen.menuBar()->height()));
     }
 
     /// Opens a screen by its item in the menus, keeps its picture and closes it.
@@ -193,6 +192,7 @@ void lightwalk(const QDir& folder)
 {
     ui::QtDesktop desktop;
     app::Program program(desktop);
+    program.open();
     program.start();
     const Walker walker(program, folder, "");
     walker.zoomto(1);
@@ -218,6 +218,7 @@ void darkwalk(const QDir& folder)
     QApplication::setPalette(darkpalette());
     ui::QtDesktop desktop;
     app::Program program(desktop);
+    program.open();
     program.start();
     const Walker walker(program, folder, "-dark");
     walker.zoomto(1);

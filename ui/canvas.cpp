@@ -38,16 +38,15 @@ void Canvas::place(QWidget* control, const TwipRect& where)
     }
 }
 
-void Canvas::placeall(const std::vector<Placed>& moved, const TwipRect& within)
+void Canvas::atonce(const std::vector<QWidget*>& changed, const TwipRect& within, const std::function<void()>& change)
 {
     const auto hold = [&](bool held) { // by the attribute alone: the function around it paints each control again
         setAttribute(Qt::WA_UpdatesDisabled, held);
-        for (const Placed& each : moved)
-            each.control->setAttribute(Qt::WA_UpdatesDisabled, held);
+        for (QWidget* control : changed)
+            control->setAttribute(Qt::WA_UpdatesDisabled, held);
     };
     hold(true);
-    for (const Placed& each : moved)
-        place(each.control, each.where);
+    change();
     hold(false);
     update(shown.place(within).translated(origin));
 }
@@ -81,13 +80,14 @@ void Canvas::resizeEvent(QResizeEvent* event)
 void Canvas::paintEvent(QPaintEvent* event)
 {
     QPainter painter(this);
-    for (const QRect& each : event->region())
-        painter.fillRect(each, shown.theme().surface);
-    painter.translate(origin);
-    for (const Backdrop& backdrop : backdrops) {
-        const QRect where = shown.place(backdrop.where);
-        if (event->region().intersects(where.translated(origin)))
-            backdrop.paint(painter, shown);
+    for (const QRect& part : event->region()) { // each by itself: a picture is copied only into a rectangle
+        painter.resetTransform();
+        painter.setClipRect(part);
+        painter.fillRect(part, shown.theme().surface);
+        painter.translate(origin);
+        for (const Backdrop& backdrop : backdrops)
+            if (part.intersects(shown.place(backdrop.where).translated(origin)))
+                backdrop.paint(painter, shown);
     }
 }
 

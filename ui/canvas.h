@@ -18,11 +18,6 @@ class Canvas : public QWidget {
     Q_OBJECT
 
 public:
-    /// A control and its place.
-    struct Placed {
-        QWidget* control;
-        TwipRect where;
-    };
     using Painting = std::function<void(QPainter&, const Look&)>;
 
     /// `shownlook` follows this canvas's zoom from now on.
@@ -30,9 +25,9 @@ public:
 
     /// Puts a control, made with this canvas as its parent, at its place.
     void place(QWidget* control, const TwipRect& where);
-    /// The same for many controls, all of which stay `within` an area: it is painted once, at the end, instead of with
-    /// each of them.
-    void placeall(const std::vector<Placed>& moved, const TwipRect& within);
+    /// Changes or moves many controls, all of which stay `within` an area: it is painted once, at the end, instead of
+    /// with each of them.
+    void atonce(const std::vector<QWidget*>& changed, const TwipRect& within, const std::function<void()>& change);
     /// Paints behind the controls, over the backdrops added before, whenever something within `where` is painted.
     void addbackdrop(const TwipRect& where, Painting paint) { backdrops.push_back({where, std::move(paint)}); }
 
@@ -54,6 +49,10 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
+    struct Placed {
+        QWidget* control;
+        TwipRect where;
+    };
     struct Backdrop {
         TwipRect where;
         Painting paint;

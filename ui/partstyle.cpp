@@ -71,10 +71,14 @@ QRect PartStyle::subElementRect(SubElement element, const QStyleOption* option, 
 QSize PartStyle::sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& contents,
                                   const QWidget* widget) const
 {
-    if (type != CT_MenuBarItem)
+    if (type != CT_MenuBarItem || !widget)
         return QProxyStyle::sizeFromContents(type, option, contents, widget);
-    const int height = option->fontMetrics.height();
-    return contents + QSize(height * 6 / 5, height / 2);
+    return {contents.width() + option->fontMetrics.height() * 6 / 5, menubarheight(widget->font().pixelSize())};
+}
+
+int PartStyle::menubarheight(int typepixels)
+{
+    return typepixels * 11 / 6;
 }
 
 void PartStyle::paintmark(QPainter& painter, const QStyleOption& option, bool round) const

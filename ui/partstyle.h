@@ -15,6 +15,10 @@ class PartStyle : public QProxyStyle {
 public:
     PartStyle(const Look& shownlook, QObject* owner);
 
+    /// The height of a menu bar whose type is `typepixels` high. It takes no font: the size of a window is asked for
+    /// before its first text.
+    static int menubarheight(int typepixels);
+
     int pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const override;
     QRect subElementRect(SubElement element, const QStyleOption* option, const QWidget* widget) const override;
     QSize sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& contents,

@@ -30,10 +30,14 @@ PianoKey::PianoKey(const Look& shownlook, Kind made, QWidget* parent)
 {
 }
 
-void PianoKey::paintEvent(QPaintEvent* /*event*/)
+void PianoKey::paintEvent(QPaintEvent* event)
 {
     QPainter painter(this);
-    paintbody(painter);
+    for (const QRect& part : event->region()) { // each by itself: a picture is copied only into a rectangle
+        painter.setClipRect(part);
+        paintbody(painter);
+    }
+    painter.setClipping(false);
     paintcaption(painter);
     ring.paint(painter, look, *this, rect(), kind == Kind::white ? 4 : 3);
 }

@@ -57,6 +57,12 @@ SelectorBox::SelectorBox(const Look& shownlook, QWidget* parent) : QComboBox(par
     connect(this, &QComboBox::activated, this, &SelectorBox::tellofactivation);
 }
 
+QSize SelectorBox::sizeHint() const
+{
+    constexpr int side = 28; // pixels at zoom 1
+    return QSize(side, side) * look.zoom();
+}
+
 // A pick from the list comes as a change and then as an activation; one by typing or by assistive technology only as a
 // change; one of the shown item only as an activation.
 void SelectorBox::tellofchange(int item)

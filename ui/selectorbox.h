@@ -23,6 +23,10 @@ public:
     /// Whether the keyboard brought the focus here.
     bool usedbykeys() const { return ring.bykeys(); }
     void showPopup() override;
+    /// Room for little more than the arrow: whoever places the box gives it its width. To measure every item would take
+    /// longer than anything else when a screen opens.
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override { return sizeHint(); }
 
 Q_SIGNALS:
     /// A person picked an item: from the opened list, by wheel or keys, or through assistive technology; once for each

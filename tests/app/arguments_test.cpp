@@ -80,6 +80,7 @@ TEST_F(UserData, secondStart_findsWhatTheFirstOneSaved)
     {
         tests::QuietDesktop desktop;
         app::Program program(desktop);
+        program.open();
         program.start();
         program.session.cbotype_Click(3);
         program.mainscreen.close();
@@ -90,6 +91,7 @@ TEST_F(UserData, secondStart_findsWhatTheFirstOneSaved)
     ASSERT_EQ(app::enteruserdata(), "");
     tests::QuietDesktop desktop;
     app::Program program(desktop);
+    program.open();
     program.start();
     EXPECT_EQ(program.session.cbotype.text, "        BANJO");
     EXPECT_EQ(program.session.startdir, directory.path / "tonefret");

@@ -241,6 +241,7 @@ TEST_F(HelpScreens, characterOutsideAscii_isFoundWhereItStands)
 {
     const auto paragraphs = help::readrtf(R"({\rtf1\ansi \u-10188?\u-8930? clef\par na\'efve \'c9tude\par})");
     help::HelpScreen screen(program.look, paragraphs, nullptr);
+    screen.show();
     control<QLineEdit>(QStringLiteral("findtext"), &screen)->setText(QString::fromUtf8("étude"));
     press(&screen, "findbut");
     EXPECT_EQ(str(control<QTextEdit>(QStringLiteral("helptext"), &screen)->textCursor().selectedText()), "Étude");
@@ -251,6 +252,7 @@ TEST_F(HelpScreens, tableAndRuns_areShownInOrder)
     const auto paragraphs = help::readrtf(
         R"({\rtf1 one\par\trowd\pard\intbl a\cell b\cell\row\trowd\intbl c\cell d\cell\row\pard{\b two}\par})");
     help::HelpScreen screen(program.look, paragraphs, nullptr);
+    screen.show();
     const auto* area = control<QTextEdit>(QStringLiteral("helptext"), &screen);
     EXPECT_EQ(str(area->toPlainText()), "one\n\na\nb\nc\nd\ntwo");
 }
@@ -263,6 +265,7 @@ TEST_F(HelpScreens, enormoustable_isShownAsParagraphs)
     for (int row = 0; row < 5000; ++row)
         document += "\\row b\\cell";
     help::HelpScreen screen(program.look, help::readrtf(document + "}"), nullptr);
+    screen.show();
     const auto* area = control<QTextEdit>(QStringLiteral("helptext"), &screen);
     EXPECT_EQ(area->document()->blockCount(), 5032);
 }

@@ -64,7 +64,11 @@ inline std::string str(const QString& text)
 /// One program of its own for each test, opened on its main screen.
 class ScreenTest : public testing::Test {
 protected:
-    ScreenTest() { program.start(); }
+    ScreenTest()
+    {
+        program.open();
+        program.start();
+    }
 
     /// The control of a name on a screen, or a failure that lists what there is.
     template <typename Control = QWidget>
