@@ -51,7 +51,7 @@ MainScreen::MainScreen(Session& shown, ui::Stage& entered, ui::Look& shared)
 void MainScreen::furnish()
 {
     menuBar()->setStyle(new ui::PartStyle(look, this)); // while it is empty: menus would be measured for each style
-    menus.emplace(*menuBar(), session, stage);
+    menus = std::make_unique<Menus>(*menuBar(), session, stage);
     dressmenubar();
     scalemenubar(canvas->zoomin(size()));
     panels.push_back(std::make_unique<PianoPanel>(*canvas, session, stage));

@@ -52,7 +52,7 @@ private:
     ui::Stage& stage;
     ui::Look& look;
     ui::Canvas* canvas;
-    std::optional<Menus> menus;
+    std::unique_ptr<Menus> menus;
     std::vector<std::unique_ptr<Panel>> panels;
     std::optional<Tips> showntips;
 };

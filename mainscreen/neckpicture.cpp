@@ -90,8 +90,9 @@ void paintinlays(QPainter& painter, const Look& look, const TwipRect& neck, Hand
 /// threads, and to wake them takes longer than the filling.
 void paintbar(QPainter& painter, const QRectF& bar, const QColor& colour)
 {
-    constexpr double piece = 64;
     const double scale = painter.device()->devicePixelRatioF();
+    const double piece = 64 / scale;
+    const int pieces = static_cast<int>(std::ceil(bar.height() / piece));
     const double left = bar.left() * scale;
     const double right = bar.right() * scale;
     const double within = std::ceil(left);
@@ -99,10 +100,11 @@ void paintbar(QPainter& painter, const QRectF& bar, const QColor& colour)
     const auto fill = [&](double from, double to, double covered) {
         QColor shade = colour;
         shade.setAlphaF(shade.alphaF() * static_cast<float>(covered));
-        for (double top = bar.top(); top < bar.bottom(); top += piece / scale)
-            painter.fillRect(
-                QRectF(QPointF(from / scale, top), QPointF(to / scale, std::min(top + piece / scale, bar.bottom()))),
-                shade);
+        for (int i = 0; i < pieces; ++i) {
+            const double top = bar.top() + i * piece;
+            painter.fillRect(QRectF(from / scale, top, (to - from) / scale, std::min(piece, bar.bottom() - top)),
+                             shade);
+        }
     };
     painter.setRenderHint(QPainter::Antialiasing, false);
     fill(within - 1, within, within - left);
