@@ -12,6 +12,7 @@
 #include "ui/partstyle.h"
 
 #include <QCloseEvent>
+#include <QMenu>
 #include <QResizeEvent>
 #include <QScreen>
 #include <QShortcut>
@@ -142,7 +143,16 @@ void MainScreen::centre()
 /// The menus stand on a card of their own above the paper.
 void MainScreen::dressmenubar()
 {
-    menuBar()->setPalette(look.palettefor(look.theme().card));
+    for (QWidget* each : barandmenus())
+        each->setPalette(look.palettefor(look.theme().card));
+}
+
+QWidgetList MainScreen::barandmenus() const
+{
+    QWidgetList all{menuBar()};
+    for (QMenu* menu : menuBar()->findChildren<QMenu*>())
+        all.append(menu);
+    return all;
 }
 
 void MainScreen::scalemenubar(double zoom)
@@ -154,7 +164,8 @@ void MainScreen::scalemenubar(double zoom)
     if (font.pixelSize() == pixels)
         return;
     font.setPixelSize(pixels);
-    menuBar()->setFont(font);
+    for (QWidget* each : barandmenus())
+        each->setFont(font);
     menuBar()->setFixedHeight(ui::PartStyle::menubarheight(pixels));
 }
 

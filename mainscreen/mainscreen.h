@@ -45,6 +45,7 @@ private:
     void onkeys(const QKeySequence& keys, std::function<void()> act);
     void sizeto(double zoom);
     void displaytips();
+    QWidgetList barandmenus() const;
     void dressmenubar();
     void scalemenubar(double zoom);
 

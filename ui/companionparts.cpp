@@ -132,6 +132,7 @@ QMenu* Companion::addmenu(const char* name, const char* text)
     QMenu* menu = menuBar()->addMenu(QString::fromLatin1(text));
     menu->menuAction()->setObjectName(QString::fromLatin1(name));
     fitfont(menu, Type::text);
+    fit([this, menu] { menu->setPalette(look.palettefor(look.theme().card)); });
     return menu;
 }
 

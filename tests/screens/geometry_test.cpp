@@ -4,6 +4,7 @@
 #include "tests/screens/screentest.h"
 #include "ui/canvas.h"
 
+#include <QMenu>
 #include <QMenuBar>
 #include <QPalette>
 
@@ -82,7 +83,13 @@ TEST_F(GeometryTest, themeOfTheDesktop_isFollowedEachTimeByPaperAndMenus)
 {
     const QPalette before = QApplication::palette();
     const auto ground = [this] { return program.mainscreen.grab().toImage().pixelColor(3, 60); };
-    const auto menus = [this] { return program.mainscreen.menuBar()->palette().color(QPalette::Window); };
+    const auto menus = [this] {
+        const QMenuBar* bar = program.mainscreen.menuBar();
+        const QColor colour = bar->palette().color(QPalette::Window);
+        for (const QAction* title : bar->actions())
+            EXPECT_EQ(title->menu()->palette().color(QPalette::Window), colour);
+        return colour;
+    };
     const QColor light = ground();
     const QColor lightmenus = menus();
     for (int turn = 0; turn < 2; ++turn) {

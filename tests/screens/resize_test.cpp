@@ -5,6 +5,7 @@
 #include "ui/canvas.h"
 #include "ui/spoken.h"
 
+#include <QMenu>
 #include <QMenuBar>
 
 // The main screen at every size that it can have. Runs once for each scale of the display.
@@ -81,8 +82,10 @@ TEST_F(Resize, everySize_hasAllControlsInsideTheWindow)
         for (const QWidget* each : controls())
             EXPECT_TRUE(canvas->rect().contains(each->geometry())) << str(each->objectName()) << " at " << zoom;
         const auto* menus = program.mainscreen.menuBar();
-        for (QAction* title : menus->actions())
+        for (QAction* title : menus->actions()) {
             EXPECT_TRUE(menus->rect().contains(menus->actionGeometry(title))) << str(title->text()) << " at " << zoom;
+            EXPECT_EQ(title->menu()->font(), menus->font()) << str(title->text()) << " at " << zoom;
+        }
     }
 }
 
