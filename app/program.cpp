@@ -18,7 +18,6 @@ Program::Program(ui::QtDesktop& opened)
     : desktop(opened), session(opened), stage(opened), mainscreen(session, stage, look)
 {
     stage.onchange([this] { display(); });
-    desktop.beforeasking([this] { stage.showall(); });
     desktop.setmain(&mainscreen);
     QObject::connect(&mainscreen, &mainscreen::MainScreen::lookchanged, &mainscreen, [this] {
         for (ui::Companion* open : mainscreen.findChildren<ui::Companion*>())
@@ -43,6 +42,7 @@ void Program::start()
 {
     mainscreen.furnish();
     stage.act([this] { session.Form_Load(); });
+    desktop.beforeasking([this] { stage.showall(); }); // not before: the state was not complete
 }
 
 void Program::display()

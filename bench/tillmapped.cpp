@@ -1,9 +1,10 @@
 // SPDX-FileCopyrightText: 2026 The tonefret developers
 // SPDX-License-Identifier: MIT
-// Starts a program on the display and writes how many milliseconds it took until its first window was mapped, and how
-// many KiB of memory it held a little later; then ends it.
+// Starts a program on an empty display and writes how many milliseconds it took until its first window was mapped, how
+// many until that was painted, and how many KiB of memory the program held a little later; then ends it.
 
 #include <X11/Xlib.h>
+#include <X11/Xutil.h>
 
 #include <chrono>
 #include <csignal>
@@ -35,6 +36,20 @@ void awaitmapped(Display* display)
     }
 }
 
+/// Qt paints a window all at once. Before that there is the black of the display to be seen in it.
+void awaitpainted(Display* display)
+{
+    const int screen = DefaultScreen(display);
+    const int height = DisplayHeight(display, screen);
+    for (bool black = true; black;) {
+        XImage* column = XGetImage(display, RootWindow(display, screen), DisplayWidth(display, screen) / 2, 0, 1,
+                                   static_cast<unsigned>(height), AllPlanes, ZPixmap);
+        for (int y = 0; black && y < height; ++y)
+            black = XGetPixel(column, 0, y) == 0;
+        XDestroyImage(column);
+    }
+}
+
 pid_t start(char** command)
 {
     const pid_t child = ::fork();
@@ -63,10 +78,12 @@ void measure(Display* display, char** command)
     const Clock::time_point begin = Clock::now();
     const pid_t child = start(command);
     awaitmapped(display);
-    const std::chrono::duration<double, std::milli> taken = Clock::now() - begin;
+    const std::chrono::duration<double, std::milli> mapped = Clock::now() - begin;
+    awaitpainted(display);
+    const std::chrono::duration<double, std::milli> painted = Clock::now() - begin;
     constexpr std::chrono::milliseconds settling{500};
     std::this_thread::sleep_for(settling);
-    std::cout << taken.count() << ' ' << residentmemory(child) << '\n';
+    std::cout << mapped.count() << ' ' << painted.count() << ' ' << residentmemory(child) << '\n';
     ::kill(child, SIGKILL);
     ::waitpid(child, nullptr, 0);
 }

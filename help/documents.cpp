@@ -14,8 +14,10 @@ constexpr std::uintmax_t mostbytes = std::uintmax_t{16} << 20U;
 std::optional<std::string> readfile(const std::filesystem::path& path)
 {
     std::error_code unreadable;
+    if (!std::filesystem::is_regular_file(path, unreadable))
+        return std::nullopt;
     const std::uintmax_t size = std::filesystem::file_size(path, unreadable);
-    if (unreadable || !std::filesystem::is_regular_file(path, unreadable))
+    if (unreadable)
         return std::nullopt;
     std::ifstream file(path, std::ios::binary);
     if (!file)

@@ -7,10 +7,12 @@
 #include "help/topics.h"
 #include "ui/text.h"
 
+#include <QAbstractTextDocumentLayout>
 #include <QBoxLayout>
 #include <QPointer>
 #include <QScrollBar>
 #include <QShowEvent>
+#include <QTextBlock>
 #include <QTextDocument>
 
 #include <array>
@@ -68,13 +70,28 @@ void HelpScreen::loaddata()
     const QPointer<QTextDocument> before = helptext->document(); // the area deletes only that which it came with
     auto* filled = new QTextDocument(helptext);
     filled->setLayoutEnabled(false);
+    filled->setUndoRedoEnabled(false);
     filled->setDocumentMargin(documentedge * look.zoom());
     filldocument(*filled, document, look);
     helptext->setDocument(filled);
     filled->setLayoutEnabled(true);
     delete before;
-    search.loaddata(filled->toPlainText().toStdU16String());
     select(selected);
+}
+
+/// Where the line begins that is the first to be seen, if only in part.
+int HelpScreen::attop() const
+{
+    const QAbstractTextDocumentLayout* layout = helptext->document()->documentLayout();
+    const int top = helptext->verticalScrollBar()->value();
+    QTextBlock block = helptext->document()->begin();
+    while (block.next().isValid() && layout->blockBoundingRect(block).bottom() <= top)
+        block = block.next();
+    const double within = top - layout->blockBoundingRect(block).top();
+    for (int i = 0; i < block.layout()->lineCount(); ++i)
+        if (const QTextLine line = block.layout()->lineAt(i); line.rect().bottom() > within)
+            return block.position() + line.textStart();
+    return block.position();
 }
 
 // The document bears its fonts and colours in itself, so another look takes another filling. The area has its size by
@@ -84,7 +101,10 @@ void HelpScreen::dressed()
     const std::optional<int> position = std::exchange(viewed, std::nullopt);
     if (filledtheme == &look.theme() && filledzoom == look.zoom())
         return;
+    centralWidget()->layout()->activate(); // on a maximized screen nothing else has changed the area yet
     loaddata();
+    if (!filledtheme)
+        search.loaddata(helptext->toPlainText().toStdU16String());
     filledtheme = &look.theme();
     filledzoom = look.zoom();
     if (position)
@@ -108,7 +128,7 @@ void HelpScreen::dressparts()
     fitarea(helptext);
     fit([this] { // before any size changes
         if (filledtheme && !viewed)
-            viewed = helptext->cursorForPosition(QPoint()).position();
+            viewed = attop();
         cbo1->setMinimumSize(smallestindex * look.zoom());
         findtext->setMinimumWidth(scaled(smallestfind.width()));
     });

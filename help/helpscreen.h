@@ -37,6 +37,7 @@ private:
     void cbo1_Click(int item);
     void findcommand();
     void select(const Match& match);
+    int attop() const;
     void scrollto(int position, int roomabove);
     void endform() { close(); }
 

@@ -12,6 +12,7 @@
 #include "ui/partstyle.h"
 
 #include <QCloseEvent>
+#include <QLayout>
 #include <QMenu>
 #include <QResizeEvent>
 #include <QScreen>
@@ -105,6 +106,7 @@ void MainScreen::addzoomkeys()
 void MainScreen::sizeto(double zoom)
 {
     scalemenubar(zoom);
+    layout()->activate(); // a lower bar lets the window be smaller
     resize(canvas->sizeat(zoom) + QSize(0, ui::PartStyle::menubarheight(menupixelsat(zoom))));
 }
 
@@ -161,8 +163,6 @@ void MainScreen::scalemenubar(double zoom)
         return;
     const int pixels = menupixelsat(zoom);
     QFont font = menuBar()->font();
-    if (font.pixelSize() == pixels)
-        return;
     font.setPixelSize(pixels);
     for (QWidget* each : barandmenus())
         each->setFont(font);

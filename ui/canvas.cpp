@@ -3,6 +3,7 @@
 #include "ui/canvas.h"
 
 #include <QPaintEvent>
+#include <QScopeGuard>
 
 #include <algorithm>
 
@@ -45,10 +46,12 @@ void Canvas::atonce(const std::vector<QWidget*>& changed, const TwipRect& within
         for (QWidget* control : changed)
             control->setAttribute(Qt::WA_UpdatesDisabled, held);
     };
+    const auto release = qScopeGuard([&] {
+        hold(false);
+        update(shown.place(within).translated(origin));
+    });
     hold(true);
     change();
-    hold(false);
-    update(shown.place(within).translated(origin));
 }
 
 void Canvas::move(const Placed& placed)
@@ -82,6 +85,7 @@ void Canvas::paintEvent(QPaintEvent* event)
     QPainter painter(this);
     for (const QRect& part : event->region()) { // each by itself: a picture is copied only into a rectangle
         painter.resetTransform();
+        painter.setRenderHint(QPainter::Antialiasing, false);
         painter.setClipRect(part);
         painter.fillRect(part, shown.theme().surface);
         painter.translate(origin);

@@ -3,10 +3,12 @@
 #include "tests/screens/companionrows.h"
 #include "ui/canvas.h"
 
+#include <QAbstractButton>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenuBar>
 #include <QScreen>
+#include <QScrollBar>
 #include <QTextBlock>
 #include <QTextEdit>
 
@@ -191,6 +193,37 @@ TEST_F(CompanionKeys, documentInAnotherLook_staysWhereItWasRead)
     program.mainscreen.resize(program.mainscreen.size() * 0.8);
     EXPECT_NEAR(attop(), block, 1);
     EXPECT_EQ(str(area->textCursor().selectedText()), selected);
+}
+
+TEST_F(CompanionKeys, documentWhileTheWindowIsDragged_staysWhereItIsRead)
+{
+    pick(QStringLiteral("mnuchelp"));
+    const auto* area = control<QTextEdit>(QStringLiteral("helptext"), companion("helpinfo"));
+    QScrollBar* bar = area->verticalScrollBar();
+    for (const double place : {0.1, 0.5, 0.9}) {
+        EXPECT_GT(area->document()->size().height(), 1000); // all of it is laid out
+        bar->setValue(qRound(place * bar->maximum()));
+        for (const int step : {1, 1, 1, 1, 1, 1, -1, -1, -1, -1, -1, -1})
+            program.mainscreen.resize(program.mainscreen.size() - QSize(9, 7) * step);
+        EXPECT_GT(area->document()->size().height(), 1000);
+        EXPECT_NEAR(static_cast<double>(bar->value()) / bar->maximum(), place, 0.02);
+    }
+}
+
+TEST_F(CompanionKeys, findInAnotherLook_goesOn)
+{
+    pick(QStringLiteral("mnuchelp"));
+    QWidget* help = companion("helpinfo");
+    control<QLineEdit>(QStringLiteral("findtext"), help)->setText(QStringLiteral("chord"));
+    const auto* area = control<QTextEdit>(QStringLiteral("helptext"), help);
+    auto* find = control<QAbstractButton>(QStringLiteral("findbut"), help);
+    int last = -1;
+    for (int turn = 0; turn < 12; ++turn) {
+        find->click();
+        EXPECT_GT(area->textCursor().selectionStart(), last) << turn;
+        last = area->textCursor().selectionStart();
+        program.mainscreen.resize(program.mainscreen.size() * (turn % 2 == 0 ? 0.9 : 1.1));
+    }
 }
 
 } // namespace

@@ -6,12 +6,30 @@
 #include <QBackingStore>
 #include <QMenuBar>
 
+#include <algorithm>
+#include <cstdlib>
 #include <random>
 
 // What is on the display after each act, which paints only what has changed, against the whole screen painted anew.
-// Runs at both scales at which every edge falls on a pixel's.
+// Runs once for each scale of the display.
 
 namespace {
+
+/// By how much a red, green or blue of the two differs at most; 256: they have not one size.
+int difference(const QImage& one, const QImage& other)
+{
+    if (one.size() != other.size())
+        return 256;
+    int most = 0;
+    for (int y = 0; y < one.height() && one != other; ++y)
+        for (int x = 0; x < one.width(); ++x) {
+            const QRgb a = one.pixel(x, y);
+            const QRgb b = other.pixel(x, y);
+            most = std::max(
+                {most, std::abs(qRed(a) - qRed(b)), std::abs(qGreen(a) - qGreen(b)), std::abs(qBlue(a) - qBlue(b))});
+        }
+    return most;
+}
 
 class Repaint : public tests::ScreenTest {
 protected:
@@ -60,7 +78,8 @@ TEST_F(Repaint, everyAct_leavesTheScreenAsPaintedAnew)
     for (int step = 0; step < 200; ++step) {
         act();
         const QImage shown = ondisplay();
-        ASSERT_EQ(shown, paintedanew()) << "after step " << step;
+        // At 1.5 the edges of a part are rounded otherwise than those of the whole.
+        ASSERT_LE(difference(shown, paintedanew()), shown.devicePixelRatio() == 1.5 ? 1 : 0) << "after step " << step;
     }
     EXPECT_NE(first, ondisplay());
 }
