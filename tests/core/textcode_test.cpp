@@ -5,6 +5,8 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
+
 namespace {
 
 struct DecodeRow {
@@ -56,6 +58,36 @@ TEST(Decode, everyByte_isOneCharacter)
 {
     for (int byte = 0; byte < 256; ++byte)
         EXPECT_EQ(core::charactercount(core::decode({static_cast<char>(byte)})), 1U) << "byte " << byte;
+}
+
+TEST(Decode, bytesThatLatin1DoesNotHave_areThoseOfWindows1252)
+{
+    std::string bytes;
+    for (int byte = 0x80; byte < 0xA0; ++byte)
+        bytes += static_cast<char>(byte);
+    EXPECT_EQ(core::decode(bytes), "€\xC2\x81‚ƒ„…†‡ˆ‰Š‹Œ\xC2\x8DŽ\xC2\x8F"
+                                   "\xC2\x90‘’“”•–—˜™š›œ\xC2\x9DžŸ");
+}
+
+/// A character above ASCII, in UTF-8.
+std::string encoded(unsigned character)
+{
+    const unsigned tails = character < 0x800U ? 1 : character < 0x10000U ? 2 : 3;
+    constexpr std::array<unsigned, 4> heads{0, 0xC0U, 0xE0U, 0xF0U};
+    std::string bytes(1, static_cast<char>(heads.at(tails) | (character >> (6U * tails))));
+    for (unsigned tail = tails; tail > 0; --tail)
+        bytes += static_cast<char>(0x80U | ((character >> (6U * (tail - 1))) & 0x3FU));
+    return bytes;
+}
+
+TEST(Decode, everyCharacter_staysAsItIs)
+{
+    for (unsigned character = 0x80; character < 0x110000; ++character) {
+        if (character == 0xD800)
+            character = 0xE000;                             // surrogates are no characters
+        const std::string bytes = "a" + encoded(character); // at the head one would be the byte order mark
+        ASSERT_EQ(core::decode(bytes), bytes) << character;
+    }
 }
 
 TEST(Decode, piecesOfLongText_meetWithoutLoss)

@@ -41,6 +41,12 @@ protected:
     fs::path second;
 };
 
+TEST(DocumentNames, names_areThoseOfTheInstalledFiles)
+{
+    EXPECT_EQ(help::completehelp, "helpmc.rtf");
+    EXPECT_EQ(help::basichelp, "helpmb.rtf");
+}
+
 TEST_F(Documents, documentInNeitherFolder_isNothing)
 {
     EXPECT_EQ(load(), std::nullopt);

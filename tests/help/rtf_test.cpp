@@ -83,6 +83,7 @@ const TextCase textcases[] = {
   { "label_set_flush_right",   R"({\listtext  1.\tab}a\par)",                   {"1.\ta"} },
   { "label_of_no_number",      R"({\listtext\tab}a\par)",                      {"a"} },
   { "tab_behind_no_label",     R"({\listtext\tab}\tab a\par)",                 {"\ta"} },
+  { "page_ends_paragraph",     R"(a\page b\sect c)",                              {"a", "b", "c"} },
   { "bin_is_passed_over",      R"(a\bin5 }}}}}b)",                               {"ab"} },
   { "bin_longer_than_text",    R"(a\bin999999 b)",                               {"a"} },
   { "negative_bin",            R"(a\bin-5 b)",                                   {"ab"} },
