@@ -12,29 +12,31 @@ namespace {
 
 constexpr std::string_view byteordermark{"\xEF\xBB\xBF"};
 
-/// The first bytes of a sequence, how long it is, and which second bytes it may have: no overlong forms, no
-/// surrogates, nothing above U+10FFFF.
+/// First bytes, from the row before up to `last`; how long the sequence is that they begin, 0 where they begin none,
+/// and which second bytes it may have: no overlong forms, no surrogates, nothing above U+10FFFF.
 struct Sequence {
-    unsigned char first;
     unsigned char last;
     std::size_t length;
-    unsigned char secondfrom;
-    unsigned char secondto;
+    unsigned char secondfrom = 0;
+    unsigned char secondto = 0;
 };
 
 // clang-format off
-//  first  last  length  second byte
-constexpr std::array<Sequence, 9> sequences{{
-  { 0x00,  0x7F, 1,      0x00, 0xFF },
-  { 0xC2,  0xDF, 2,      0x80, 0xBF },
-  { 0xE0,  0xE0, 3,      0xA0, 0xBF },
-  { 0xE1,  0xEC, 3,      0x80, 0xBF },
-  { 0xED,  0xED, 3,      0x80, 0x9F },
-  { 0xEE,  0xEF, 3,      0x80, 0xBF },
-  { 0xF0,  0xF0, 4,      0x90, 0xBF },
-  { 0xF1,  0xF3, 4,      0x80, 0xBF },
-  { 0xF4,  0xF4, 4,      0x80, 0x8F },
+//  last  length  second byte
+constexpr std::array<Sequence, 11> sequences{{
+  { 0x7F, 1 },
+  { 0xC1, 0 },
+  { 0xDF, 2,      0x80, 0xBF },
+  { 0xE0, 3,      0xA0, 0xBF },
+  { 0xEC, 3,      0x80, 0xBF },
+  { 0xED, 3,      0x80, 0x9F },
+  { 0xEF, 3,      0x80, 0xBF },
+  { 0xF0, 4,      0x90, 0xBF },
+  { 0xF3, 4,      0x80, 0xBF },
+  { 0xF4, 4,      0x80, 0x8F },
+  { 0xFF, 0 },
 }};
+static_assert(std::ranges::is_sorted(sequences, {}, &Sequence::last) && sequences.back().last == 0xFF);
 
 /// Windows-1252 where it differs from Latin-1: bytes 80 to 9F.
 constexpr std::array<std::uint16_t, 32> upperhalf{
@@ -57,8 +59,8 @@ constexpr bool continues(char c)
 std::size_t sequencelength(std::string_view text)
 {
     const unsigned char head = byteof(text.front());
-    const auto* row = std::ranges::find_if(sequences, [head](const Sequence& s) { return head <= s.last; });
-    if (row == sequences.end() || head < row->first || row->length > text.size())
+    const auto* row = std::ranges::lower_bound(sequences, head, {}, &Sequence::last);
+    if (row->length == 0 || row->length > text.size())
         return 0;
     if (row->length > 1 && (byteof(text[1]) < row->secondfrom || byteof(text[1]) > row->secondto))
         return 0;

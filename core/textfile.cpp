@@ -38,22 +38,23 @@ public:
     Descriptor& operator=(const Descriptor&) = delete;
     ~Descriptor()
     {
-        if (number >= 0)
+        if (isopen())
             ::close(number);
     }
 
-    bool isopen() const { return number >= 0; }
+    bool isopen() const { return number != none; }
     int get() const { return number; }
 
     /// Closes now: a full disk may be told of no earlier.
     std::error_code close()
     {
         const int closed = ::close(number);
-        number = -1;
+        number = none;
         return closed == 0 ? std::error_code() : lastfailure();
     }
 
 private:
+    static constexpr int none = -1;
     int number;
 };
 
@@ -143,12 +144,11 @@ private:
     bool temporary = false;
 };
 
-/// Where a link leads to, also where nothing stands there yet.
+/// Where a link leads to that the system can follow, also where nothing stands there yet.
 fs::path targetof(fs::path file)
 {
-    constexpr int mostlinks = 40;
     std::error_code none;
-    for (int i = 0; i < mostlinks && fs::is_symlink(file, none); ++i)
+    while (fs::is_symlink(file, none))
         file = file.parent_path() / fs::read_symlink(file, none);
     return file;
 }
@@ -196,11 +196,11 @@ FileText readtext(const fs::path& file)
 
 std::error_code replacetext(const fs::path& file, std::string_view bytes)
 {
-    const fs::path target = targetof(file);
     struct stat old {};
-    const bool exists = ::stat(target.c_str(), &old) == 0;
+    const bool exists = ::stat(file.c_str(), &old) == 0;
     if (!exists && errno != ENOENT)
         return lastfailure();
+    const fs::path target = targetof(file);
     if (exists) {
         if (const auto refused = refusal(old.st_mode))
             return refused;

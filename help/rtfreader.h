@@ -41,7 +41,7 @@ private:
     struct Word {
         std::string_view name;
         void (RtfReader::*act)(int value);
-        int absent;
+        int absent = 0;
     };
     static const Word* findword(std::string_view name);
 

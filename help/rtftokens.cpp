@@ -80,9 +80,8 @@ Token Tokens::word()
     token.value = number();
     if (!rest.empty() && rest.front() == ' ')
         rest.remove_prefix(1);
-    const int bytes = token.word == "bin" ? token.value.value_or(0) : 0;
-    if (bytes > 0)
-        rest.remove_prefix(std::min(rest.size(), static_cast<std::size_t>(bytes)));
+    if (token.word == "bin")
+        rest.remove_prefix(std::min(rest.size(), static_cast<std::size_t>(std::max(token.value.value_or(0), 0))));
     return token;
 }
 

@@ -117,6 +117,23 @@ TEST_F(TextFile, link_staysAndItsTargetIsReplaced)
     EXPECT_EQ(directory.names(), "ahead folder link second");
 }
 
+TEST_F(TextFile, chainOfLinks_isFollowedAsFarAsTheSystemFollowsIt)
+{
+    directory.write("0", "old");
+    for (int i = 1; i <= 60; ++i)
+        fs::create_symlink(std::to_string(i - 1), std::to_string(i));
+    for (int i = 1; i <= 60; ++i) {
+        const std::string name = std::to_string(i);
+        const std::string before = readtext("0").bytes;
+        const bool follows = !readtext(name).failure;
+        EXPECT_EQ(!replacetext(name, "new " + name), follows) << name;
+        EXPECT_EQ(readtext("0").bytes, follows ? "new " + name : before) << name;
+        EXPECT_TRUE(fs::is_symlink(name)) << name;
+    }
+    EXPECT_FALSE(readtext("20").failure);
+    EXPECT_TRUE(readtext("60").failure);
+}
+
 TEST_F(TextFile, linkInACircle_isRefused)
 {
     fs::create_symlink("b", "a");

@@ -36,17 +36,9 @@ inline void PrintTo(const CompanionRow& row, std::ostream* out)
     *out << row.screen;
 }
 
-/// One of the screens, open.
-class CompanionTest : public ScreenTest, public testing::WithParamInterface<CompanionRow> {
+/// What opens any of the screens.
+class CompanionsTest : public ScreenTest {
 protected:
-    CompanionTest() : screen(open(GetParam()))
-    {
-        QApplication::setCursorFlashTime(0); // a mark that comes and goes would make pictures differ
-    }
-
-    ui::Companion& screen;
-
-private:
     ui::Companion& open(const CompanionRow& row)
     {
         session.customtable[0] = {"Open C", "03070740"};
@@ -63,6 +55,17 @@ private:
             throw std::runtime_error(std::string("not open: ") + row.screen);
         return *opened;
     }
+};
+
+/// One of the screens, open.
+class CompanionTest : public CompanionsTest, public testing::WithParamInterface<CompanionRow> {
+protected:
+    CompanionTest() : screen(open(GetParam()))
+    {
+        QApplication::setCursorFlashTime(0); // a mark that comes and goes would make pictures differ
+    }
+
+    ui::Companion& screen;
 };
 
 inline std::string rowname(const testing::TestParamInfo<CompanionRow>& row)
