@@ -41,6 +41,15 @@ void linkto(const char* target)
     fs::create_symlink(target, datafile);
 }
 
+/// A file at the end of more links than the system follows.
+void linkfarto(const Directory& directory)
+{
+    directory.write("kept/0", before);
+    for (int i = 1; i < 60; ++i)
+        fs::create_symlink(std::to_string(i - 1), "kept/" + std::to_string(i));
+    linkto("kept/59");
+}
+
 struct PlaceRow {
     const char* row;
     void (*prepare)(const Directory&);
@@ -93,7 +102,8 @@ INSTANTIATE_TEST_SUITE_P(Places, BadPlace, testing::Values(
     PlaceRow{"link to a folder",     [](const Directory&)   { linkto("kept"); },                        false, "kept tonefret.txt",   ""},
     PlaceRow{"link to a pipe",       [](const Directory&)   { ASSERT_EQ(::mkfifo("kept/pipe", 0666), 0); linkto("kept/pipe"); }, false, "kept tonefret.txt", ""},
     PlaceRow{"link to a device",     [](const Directory&)   { linkto("/dev/zero"); },                   false, "kept tonefret.txt",   ""},
-    PlaceRow{"link in a circle",     [](const Directory&)   { linkto(datafile); },                      true,  "kept tonefret.txt",   ""}),
+    PlaceRow{"link in a circle",     [](const Directory&)   { linkto(datafile); },                      true,  "kept tonefret.txt",   ""},
+    PlaceRow{"link over many",       linkfarto,                                                         true,  "kept tonefret.txt",   ""}),
     [](const auto& row) { return tests::rowname(row.param.row); });
 // clang-format on
 
