@@ -37,8 +37,8 @@ enum class AlternateText : std::uint8_t {
 /// The second reading: another root and what is written behind it.
 struct Alternate {
     AlternateText text = AlternateText::none;
-    std::int8_t root = 0; ///< semitones above the chord's own root; not always one of its notes
-    std::int8_t type = 0; ///< number of the other chord type
+    std::int8_t root{}; ///< semitones above the chord's own root; not always one of its notes
+    std::int8_t type{}; ///< number of the other chord type
 };
 
 /// A row of the catalogue. Its place in the table is the type's number, 0..27, and the index of its button.
@@ -53,8 +53,8 @@ struct ChordType {
 
 namespace detail {
 inline constexpr Alternate none{};
-inline constexpr Alternate dim{AlternateText::dimlist, 3, 0};
-inline constexpr Alternate aug{AlternateText::auglist, 4, 0};
+inline constexpr Alternate dim{AlternateText::dimlist, 3};
+inline constexpr Alternate aug{AlternateText::auglist, 4};
 constexpr Alternate also(int root, int type)
 {
     return {AlternateText::type, static_cast<std::int8_t>(root), static_cast<std::int8_t>(type)};

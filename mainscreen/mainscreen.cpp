@@ -145,6 +145,8 @@ void MainScreen::centre()
 /// The menus stand on a card of their own above the paper.
 void MainScreen::dressmenubar()
 {
+    if (!menus)
+        return;
     for (QWidget* each : barandmenus())
         each->setPalette(look.palettefor(look.theme().card));
 }
@@ -182,8 +184,7 @@ void MainScreen::changeEvent(QEvent* event)
     if (event->type() != QEvent::PaletteChange)
         return;
     look.followpalette(palette());
-    if (menus)
-        dressmenubar();
+    dressmenubar();
     canvas->update();
     Q_EMIT lookchanged();
 }

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "ui/canvas.h"
 
+#include "ui/paintparts.h"
+
 #include <QPaintEvent>
 #include <QScopeGuard>
 
@@ -83,16 +85,13 @@ void Canvas::resizeEvent(QResizeEvent* event)
 void Canvas::paintEvent(QPaintEvent* event)
 {
     QPainter painter(this);
-    for (const QRect& part : event->region()) { // each by itself: a picture is copied only into a rectangle
-        painter.resetTransform();
-        painter.setRenderHint(QPainter::Antialiasing, false);
-        painter.setClipRect(part);
+    paintparts(painter, event->region(), [&](const QRect& part) {
         painter.fillRect(part, shown.theme().surface);
         painter.translate(origin);
         for (const Backdrop& backdrop : backdrops)
             if (part.intersects(shown.place(backdrop.where).translated(origin)))
                 backdrop.paint(painter, shown);
-    }
+    });
 }
 
 } // namespace ui

@@ -14,6 +14,7 @@ namespace {
 
 constexpr double indicator = 14; ///< side of a check mark's box, in pixels at zoom 1
 constexpr double boxcorner = 5;
+constexpr double boxpadding = 4; ///< beside the text in a box, in pixels at zoom 1
 constexpr double tickcorner = 3;
 constexpr int areaedge = 2; ///< around an area for text, in pixels at every zoom: room for the ring
 
@@ -65,7 +66,9 @@ QRect PartStyle::subElementRect(SubElement element, const QStyleOption* option, 
         return subElementRect(SE_CheckBoxIndicator, option, widget);
     if (element == SE_RadioButtonFocusRect)
         return subElementRect(SE_RadioButtonIndicator, option, widget);
-    return QProxyStyle::subElementRect(element, option, widget);
+    const QRect whole = QProxyStyle::subElementRect(element, option, widget);
+    const int padding = element == SE_LineEditContents ? qRound(boxpadding * look.zoom()) : 0;
+    return whole.adjusted(padding, 0, -padding, 0);
 }
 
 QSize PartStyle::sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& contents,

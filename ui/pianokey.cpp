@@ -3,6 +3,7 @@
 #include "ui/pianokey.h"
 
 #include "ui/marks.h"
+#include "ui/paintparts.h"
 
 #include <QLinearGradient>
 #include <QPainter>
@@ -33,11 +34,7 @@ PianoKey::PianoKey(const Look& shownlook, Kind made, QWidget* parent)
 void PianoKey::paintEvent(QPaintEvent* event)
 {
     QPainter painter(this);
-    for (const QRect& part : event->region()) { // each by itself: a picture is copied only into a rectangle
-        painter.setClipRect(part);
-        paintbody(painter);
-    }
-    painter.setClipping(false);
+    paintparts(painter, event->region(), [&](const QRect& /*part*/) { paintbody(painter); });
     paintcaption(painter);
     ring.paint(painter, look, *this, rect(), kind == Kind::white ? 4 : 3);
 }

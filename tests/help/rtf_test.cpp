@@ -222,9 +222,33 @@ TEST(Rtf, paragraphs_bearTheirForm)
                                      .after = 20,
                                      .tabs = {300, 600}};
     EXPECT_EQ(read[0].format, form);
-    EXPECT_EQ(read[1].format, help::ParagraphFormat{});
+    const help::ParagraphFormat plain{.alignment = Alignment::left,
+                                      .left = 0,
+                                      .right = 0,
+                                      .first = 0,
+                                      .before = 0,
+                                      .after = 0,
+                                      .tabs = {},
+                                      .intable = false};
+    EXPECT_EQ(read[1].format, plain);
     EXPECT_EQ(read[2].format.alignment, Alignment::right);
     EXPECT_EQ(read[3].format.alignment, Alignment::justified);
+}
+
+TEST(Rtf, wordsWithoutTheirNumber_haveTheUsualOne)
+{
+    const auto indented = readrtf(inbraces(R"(\li9\ri9\fi9\sb9\sa9 a\li\ri\fi\sb\sa\tx\par)"));
+    EXPECT_EQ(indented.at(0).format, help::ParagraphFormat{.tabs = {0}});
+    const auto sized = readrtf(inbraces(R"(\fs60\fs a)"));
+    EXPECT_EQ(sized.at(0).runs.at(0).format.size, 24);
+    const auto coloured =
+        readrtf(inbraces(R"({\colortbl\red1;\red9\green9\blue9\red\green\blue;}\cf1 a\cf b)")).at(0).runs;
+    EXPECT_EQ(coloured.at(0).format.colour, 0U);
+    EXPECT_EQ(coloured.at(1).format.colour, 0x010000U);
+    const auto lettered = readrtf(inbraces(R"({\fonttbl{\f\fmodern A;}{\f1 B;}}\deff a\f1 b\f c)")).at(0).runs;
+    EXPECT_TRUE(lettered.at(0).format.fixed);
+    EXPECT_FALSE(lettered.at(1).format.fixed);
+    EXPECT_TRUE(lettered.at(2).format.fixed);
 }
 
 TEST(Rtf, leftAlignment_takesBackAnother)
