@@ -5,7 +5,9 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <filesystem>
+#include <functional>
 #include <utility>
 
 namespace {
@@ -25,6 +27,56 @@ TEST(BeforeStart, selectors_showTheirFirstTexts)
     EXPECT_EQ(session.cboleft.items, (std::vector<std::string>{"Right Hand", "Left Hand"}));
     EXPECT_EQ(session.keyboard.key[1].caption, "C# Db");
     EXPECT_EQ(session.keyboard.key[22].caption, "A# Bb");
+}
+
+TEST(BeforeStart, neck_hasSixStringsInSightAndNoCapo)
+{
+    RecordingDesktop desktop;
+    const mainscreen::Session session(desktop);
+    EXPECT_TRUE(std::ranges::all_of(session.fretboard.cell, &instruments::Cell::visible));
+    EXPECT_TRUE(std::ranges::all_of(session.fretboard.linevisible, std::identity{}));
+    EXPECT_EQ(session.fretboard.rowtop, instruments::layoutrow(instruments::StringLayout::sixstrings).tops);
+    EXPECT_FALSE(session.capomarker.barvisible);
+    EXPECT_FALSE(session.capomarker.followervisible);
+    EXPECT_EQ(session.PositionFret, 0);
+}
+
+TEST(BeforeStart, camera_hasTakenNothing)
+{
+    RecordingDesktop desktop;
+    const mainscreen::Session session(desktop);
+    const print::Camera& camera = session.camera;
+    EXPECT_EQ(camera.mode, print::CameraMode::strings);
+    EXPECT_FALSE(camera.modechosen || camera.marks.mnuguitar || camera.marks.mnupiano || camera.pending());
+    EXPECT_EQ(camera.SnapshotCount + camera.PageBlockCount + camera.BlockWidth + camera.RowWidth, 0);
+    EXPECT_EQ(camera.fingering.TopFret, 0);
+}
+
+TEST(BeforeStart, page_isClosedAndEmpty)
+{
+    RecordingDesktop desktop;
+    const mainscreen::Session session(desktop);
+    EXPECT_FALSE(session.page.open || session.page.chkmult);
+    EXPECT_TRUE(session.page.chkalt);
+    EXPECT_EQ(session.page.fontsize, 8);
+    EXPECT_EQ(session.page.txtlines, "0");
+    EXPECT_EQ(session.page.text + session.page.kept, "");
+}
+
+TEST(BeforeStart, nothing_isOpenMarkedOrChanged)
+{
+    RecordingDesktop desktop;
+    const mainscreen::Session session(desktop);
+    EXPECT_FALSE(session.customshown || session.arrangeshown || session.customchanged);
+    EXPECT_TRUE(session.mnutips);
+    const mainscreen::SpellingMarks& marks = session.marks;
+    EXPECT_FALSE(marks.mnusharp || marks.mnuflat || marks.mnumix1 || marks.mnumix2 || marks.mnuauto || marks.mnuboth);
+    EXPECT_EQ(marks.bold, mainscreen::BoldButton::none);
+    EXPECT_EQ(session.chordindex, 0);
+    EXPECT_EQ(session.retune.row + session.retune.note, 0);
+    EXPECT_FALSE(session.editform.chkleft || session.editform.guarded());
+    EXPECT_EQ(session.editform.txtnum(), " 0");
+    EXPECT_EQ(session.editform.txtinfo, "- blank -");
 }
 
 TEST(Start, capoSelector_hasSeventeenItemsAndNoneChosen)
