@@ -9,7 +9,9 @@
 #include <QAbstractScrollArea>
 #include <QMenuBar>
 #include <QPainter>
+#include <QScrollBar>
 
+#include <initializer_list>
 #include <utility>
 
 namespace ui {
@@ -67,7 +69,8 @@ void Companion::fitbox(QLineEdit* box)
 
 void Companion::fitarea(QAbstractScrollArea* area)
 {
-    area->setStyle(partstyle);
+    for (QWidget* part : std::initializer_list<QWidget*>{area, area->verticalScrollBar(), area->horizontalScrollBar()})
+        part->setStyle(partstyle);
     fit([this, area] { area->setPalette(look.palettefor(look.theme().card)); });
 }
 

@@ -7,7 +7,8 @@
 #include <QApplication>
 #include <QPainterPath>
 #include <QRadioButton>
-#include <QStyleOption>
+
+#include <algorithm>
 
 namespace ui {
 namespace {
@@ -16,7 +17,9 @@ constexpr double indicator = 14; ///< side of a check mark's box, in pixels at z
 constexpr double boxcorner = 5;
 constexpr double boxpadding = 4; ///< beside the text in a box, in pixels at zoom 1
 constexpr double tickcorner = 3;
-constexpr int areaedge = 2; ///< around an area for text, in pixels at every zoom: room for the ring
+constexpr double handleinset = 3; ///< of a scroll bar's handle, from the edges of the bar
+constexpr double itempadding = 7; ///< beside the text of a list's item, in pixels at zoom 1
+constexpr int areaedge = 2;       ///< around an area for text, in pixels at every zoom: room for the ring
 
 void painttick(QPainter& painter, const QRectF& box, const QColor& colour)
 {
@@ -52,11 +55,23 @@ int PartStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, const
     case PM_ExclusiveIndicatorWidth:
     case PM_ExclusiveIndicatorHeight:
         return qRound(indicator * look.zoom());
+    case PM_ScrollBarExtent:
+        return qRound(QProxyStyle::pixelMetric(metric, option, widget) * look.zoom());
+    case PM_FocusFrameHMargin:
+        return qRound(itempadding * look.zoom());
     case PM_DefaultFrameWidth:
         return areaedge;
     default:
         return QProxyStyle::pixelMetric(metric, option, widget);
     }
+}
+
+int PartStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                         QStyleHintReturn* returned) const
+{
+    if (hint == SH_ComboBox_Popup) // a list below its box, of as many items as the box allows, not one over the screen
+        return 0;
+    return QProxyStyle::styleHint(hint, option, widget, returned);
 }
 
 /// The ring is around the mark, so that it crosses no text.
@@ -132,6 +147,29 @@ void PartStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* opti
     default:
         QProxyStyle::drawPrimitive(element, option, painter, widget);
     }
+}
+
+/// The handle of a scroll bar: the platform's is hardly seen on its groove.
+void PartStyle::painthandle(QPainter& painter, const QStyleOptionSlider& bar, const QRectF& place) const
+{
+    const double inset = handleinset * look.zoom();
+    const QRectF handle = place.adjusted(inset, inset, -inset, -inset);
+    const bool held = bar.state.testFlag(State_Sunken) && bar.activeSubControls.testFlag(SC_ScrollBarSlider);
+    const QColor& colour = held ? look.theme().text : look.theme().outline;
+    paintbox(painter, look, handle, colour, colour, std::min(handle.width(), handle.height()) / 2 / look.zoom());
+}
+
+void PartStyle::drawComplexControl(ComplexControl control, const QStyleOptionComplex* option, QPainter* painter,
+                                   const QWidget* widget) const
+{
+    const auto* bar = qstyleoption_cast<const QStyleOptionSlider*>(option);
+    if (control != CC_ScrollBar || !bar)
+        return QProxyStyle::drawComplexControl(control, option, painter, widget);
+    QStyleOptionSlider groove(*bar);
+    groove.subControls.setFlag(SC_ScrollBarSlider, false);
+    QProxyStyle::drawComplexControl(control, &groove, painter, widget);
+    if (bar->subControls.testFlag(SC_ScrollBarSlider))
+        painthandle(*painter, *bar, subControlRect(control, bar, SC_ScrollBarSlider, widget));
 }
 
 void PartStyle::drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,

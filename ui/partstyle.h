@@ -5,12 +5,13 @@
 #include "ui/look.h"
 
 #include <QProxyStyle>
+#include <QStyleOption>
 
 namespace ui {
 
 /// The desktop's style for the platform's own controls, with edges, marks and the ring of the keyboard in the program's
-/// look: check boxes and option buttons that grow with the text beside them, boxes and areas for text, and menu bars
-/// whose titles stand apart as their type is large.
+/// look: check boxes and option buttons that grow with the text beside them, boxes and areas for text, their scroll
+/// bars, and menu bars whose titles stand apart as their type is large.
 class PartStyle : public QProxyStyle {
 public:
     PartStyle(const Look& shownlook, QObject* owner);
@@ -20,6 +21,8 @@ public:
     static int menubarheight(int typepixels);
 
     int pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const override;
+    int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                  QStyleHintReturn* returned) const override;
     QRect subElementRect(SubElement element, const QStyleOption* option, const QWidget* widget) const override;
     QSize sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& contents,
                            const QWidget* widget) const override;
@@ -27,9 +30,12 @@ public:
                        const QWidget* widget) const override;
     void drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
                      const QWidget* widget) const override;
+    void drawComplexControl(ComplexControl control, const QStyleOptionComplex* option, QPainter* painter,
+                            const QWidget* widget) const override;
 
 private:
     void paintmark(QPainter& painter, const QStyleOption& option, bool round) const;
+    void painthandle(QPainter& painter, const QStyleOptionSlider& bar, const QRectF& place) const;
     void paintedge(QPainter& painter, const QStyleOption& option) const;
 
     const Look& look;

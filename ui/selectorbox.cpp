@@ -3,6 +3,7 @@
 #include "ui/selectorbox.h"
 
 #include "ui/access.h"
+#include "ui/partstyle.h"
 #include "ui/selectoraccess.h"
 
 #include <QAbstractItemView>
@@ -10,6 +11,7 @@
 #include <QKeyEvent>
 #include <QPainter>
 #include <QPainterPath>
+#include <QScrollBar>
 #include <QSignalBlocker>
 #include <QStyledItemDelegate>
 
@@ -20,12 +22,20 @@ namespace {
 
 class TrimmedItems : public QStyledItemDelegate {
 public:
-    using QStyledItemDelegate::QStyledItemDelegate;
+    TrimmedItems(const Look& shownlook, QObject* parent) : QStyledItemDelegate(parent), look(shownlook) {}
 
     QString displayText(const QVariant& value, const QLocale& /*locale*/) const override
     {
         return value.toString().trimmed();
     }
+    QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override
+    {
+        constexpr int above = 4; // and below the text, pixels at zoom 1
+        return QStyledItemDelegate::sizeHint(option, index) + QSize(0, qRound(above * look.zoom()));
+    }
+
+private:
+    const Look& look;
 };
 
 /// Whether a key is a letter or a digit by which an item is sought.
@@ -103,12 +113,23 @@ void SelectorBox::showPopup()
 {
     setFont(look.font(Type::text));
     setPalette(look.palettefor(look.theme().card));
-    if (!trimmeditems) { // not before: the list itself is made here
-        view()->setItemDelegate(trimmeditems = new TrimmedItems(this));
-        view()->installEventFilter(this);
-    }
+    if (!trimmeditems) // not before: the list itself is made here
+        makelist();
+    const int scrollbar = style()->pixelMetric(QStyle::PM_ScrollBarExtent);
+    view()->setMinimumWidth(view()->sizeHintForColumn(modelColumn()) + scrollbar); // or long names would be cut
     sincetyping.invalidate();
     QComboBox::showPopup();
+}
+
+void SelectorBox::makelist()
+{
+    auto* style = new PartStyle(look, this);
+    setStyle(style);
+    view()->setStyle(style);
+    view()->setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded); // the platform's style may have switched it off
+    view()->verticalScrollBar()->setStyle(style);
+    view()->setItemDelegate(trimmeditems = new TrimmedItems(look, this));
+    view()->installEventFilter(this);
 }
 
 void SelectorBox::paintEvent(QPaintEvent* /*event*/)

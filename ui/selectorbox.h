@@ -40,6 +40,7 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
+    void makelist();
     void tellofchange(int item);
     void tellofactivation(int item);
     int sought(const QString& typed, int current);

@@ -67,6 +67,17 @@ protected:
     int begin() const { return area->textCursor().selectionStart(); }
     std::string selected() const { return str(area->textCursor().selectedText()); }
 
+    /// Where the handle is seen on the scroll bar, pixels from its upper end; -1: nowhere.
+    int handle() const
+    {
+        const QImage bar = area->verticalScrollBar()->grab().toImage();
+        const QColor colour = program.look.theme().outline;
+        for (int y = 0; y < bar.height(); ++y)
+            if (bar.pixelColor(bar.width() / 2, y) == colour)
+                return y;
+        return -1;
+    }
+
     QWidget* screen = openhelp();
     QTextEdit* area = control<QTextEdit>(QStringLiteral("helptext"), screen);
     QLineEdit* box = control<QLineEdit>(QStringLiteral("findtext"), screen);
@@ -117,6 +128,18 @@ TEST_F(HelpViewer, everytopic_selectsItsHeadingAndScrollsThere)
     const int first = begin();
     choosetopic(0);
     EXPECT_EQ(begin(), first);
+}
+
+TEST_F(HelpViewer, scrollhandle_isSeenWhereTheReaderIs)
+{
+    QScrollBar* bar = area->verticalScrollBar();
+    const int above = handle();
+    EXPECT_GE(above, 0);
+    bar->setValue(bar->maximum() / 2);
+    const int halfway = handle();
+    EXPECT_GT(halfway, above);
+    bar->setValue(bar->maximum());
+    EXPECT_GT(handle(), halfway);
 }
 
 TEST_F(HelpViewer, enter_findsOnAndBeginsAgainAfterAMiss)

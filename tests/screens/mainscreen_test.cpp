@@ -6,6 +6,7 @@
 
 #include <QAbstractItemView>
 #include <QMessageBox>
+#include <QScrollBar>
 #include <QTimer>
 
 namespace {
@@ -75,6 +76,36 @@ TEST_F(MainScreenTest, pickInTheOpenedList_changesTheFamily)
     QTest::keyClick(items, Qt::Key_Return);
     EXPECT_EQ(shown(QStringLiteral("cbotype"), "currentText"), "         BASS");
     EXPECT_EQ(shown(QStringLiteral("cbotuning"), "currentText"), "4 string normal EADG");
+}
+
+TEST_F(MainScreenTest, openedLists_showTheirItemsWhole)
+{
+    constexpr auto longname = "WWWWWWWWWWWWWWWWWWWWWWWWW";
+    session.customtable[0] = {longname, "03070740"};
+    auto* families = control<QComboBox>(QStringLiteral("cbotype"));
+    for (int family = 0; family < families->count(); ++family) {
+        choose(QStringLiteral("cbotype"), family);
+        for (const char* name : {"cbotype", "cboleft", "cbotuning", "cbopreset"}) {
+            auto* list = control<QComboBox>(QLatin1String(name));
+            list->showPopup();
+            QApplication::processEvents();
+            EXPECT_GE(list->view()->viewport()->width(), list->view()->sizeHintForColumn(0)) << name << " " << family;
+            list->hidePopup();
+        }
+    }
+    EXPECT_EQ(shown(QStringLiteral("cbotuning"), "currentText"), longname); // the last family is the user's own
+}
+
+TEST_F(MainScreenTest, longList_opensTwentyItemsHigh)
+{
+    auto* list = control<QComboBox>(QStringLiteral("cbotuning"));
+    ASSERT_GT(list->count(), 20);
+    list->showPopup();
+    QApplication::processEvents();
+    const int item = list->view()->sizeHintForRow(0);
+    EXPECT_EQ(list->view()->viewport()->height() / item, 20);
+    EXPECT_TRUE(list->view()->verticalScrollBar()->isVisible());
+    list->hidePopup();
 }
 
 TEST_F(MainScreenTest, everyWayOfPicking_actsOnce)
