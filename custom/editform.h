@@ -14,9 +14,10 @@
 namespace custom {
 
 inline constexpr std::size_t stringcount = 6;
-inline constexpr std::size_t selectionbox = 6; ///< the note box that shows the selected note
-inline constexpr std::size_t longestname = 25; ///< characters of an entry's name, at most
-inline constexpr std::size_t typedlength = 26; ///< characters that can be typed, so that one too many is told of
+inline constexpr std::size_t selectionbox = 6;              ///< the note box that shows the selected note
+inline constexpr std::size_t longestname = 25;              ///< characters of an entry's name, at most
+inline constexpr std::size_t typedlength = longestname + 1; ///< that can be typed, so that one too many is told of
+static_assert(typedlength == 26);
 
 /// The edit screen as it stands: one place of the user's own tunings, written and rewritten before it is stored.
 /// Its procedures bear the names of the controls; a screen shows the fields and keeps nothing of its own.

@@ -17,39 +17,39 @@ constexpr std::u16string_view endmark = u"#end#"; ///< stands for the search tex
 struct Capitals {
     char16_t first;
     char16_t last;
-    int every;    ///< 2: a small letter follows each capital
-    int distance; ///< to the small letter
+    int distance;  ///< to the small letter
+    int every = 1; ///< 2: a small letter follows each capital
 };
 
 // clang-format off
 constexpr auto capitals = std::to_array<Capitals>({
-//  first   last    every distance
-  { u'A',   u'Z',   1,    32 },
-  { 0xC0,   0xD6,   1,    32 },    // Latin-1
-  { 0xD8,   0xDE,   1,    32 },
-  { 0x100,  0x12E,  2,    1 },     // Latin Extended-A
-  { 0x132,  0x136,  2,    1 },
-  { 0x139,  0x147,  2,    1 },
-  { 0x14A,  0x176,  2,    1 },
-  { 0x178,  0x178,  1,    -121 },  // Y with two dots
-  { 0x179,  0x17D,  2,    1 },
-  { 0x386,  0x386,  1,    38 },    // Greek, first the letters with an accent
-  { 0x388,  0x38A,  1,    37 },
-  { 0x38C,  0x38C,  1,    64 },
-  { 0x38E,  0x38F,  1,    63 },
-  { 0x391,  0x3A1,  1,    32 },
-  { 0x3A3,  0x3AB,  1,    32 },
-  { 0x3C2,  0x3C2,  1,    1 },     // the small sigma at the end of a word
-  { 0x400,  0x40F,  1,    80 },    // Cyrillic
-  { 0x410,  0x42F,  1,    32 },
-  { 0x460,  0x480,  2,    1 },
-  { 0x48A,  0x4BE,  2,    1 },
-  { 0x4C0,  0x4C0,  1,    15 },
-  { 0x4C1,  0x4CD,  2,    1 },
-  { 0x4D0,  0x52E,  2,    1 },
-  { 0x1E00, 0x1E94, 2,    1 },     // Latin Extended Additional
-  { 0x1E9E, 0x1E9E, 1,    -7615 }, // sharp s
-  { 0x1EA0, 0x1EFE, 2,    1 },
+//  first   last    distance every
+  { u'A',   u'Z',   32 },
+  { 0xC0,   0xD6,   32 },          // Latin-1
+  { 0xD8,   0xDE,   32 },
+  { 0x100,  0x12E,  1,       2 },  // Latin Extended-A
+  { 0x132,  0x136,  1,       2 },
+  { 0x139,  0x147,  1,       2 },
+  { 0x14A,  0x176,  1,       2 },
+  { 0x178,  0x178,  -121 },        // Y with two dots
+  { 0x179,  0x17D,  1,       2 },
+  { 0x386,  0x386,  38 },          // Greek, first the letters with an accent
+  { 0x388,  0x38A,  37 },
+  { 0x38C,  0x38C,  64 },
+  { 0x38E,  0x38F,  63 },
+  { 0x391,  0x3A1,  32 },
+  { 0x3A3,  0x3AB,  32 },
+  { 0x3C2,  0x3C2,  1 },           // the small sigma at the end of a word
+  { 0x400,  0x40F,  80 },          // Cyrillic
+  { 0x410,  0x42F,  32 },
+  { 0x460,  0x480,  1,       2 },
+  { 0x48A,  0x4BE,  1,       2 },
+  { 0x4C0,  0x4C0,  15 },
+  { 0x4C1,  0x4CD,  1,       2 },
+  { 0x4D0,  0x52E,  1,       2 },
+  { 0x1E00, 0x1E94, 1,       2 },  // Latin Extended Additional
+  { 0x1E9E, 0x1E9E, -7615 },       // sharp s
+  { 0x1EA0, 0x1EFE, 1,       2 },
 });
 // clang-format on
 static_assert(std::ranges::is_sorted(capitals, {}, &Capitals::first));

@@ -7,14 +7,14 @@ namespace mainscreen {
 
 /// What one of the five choices of spelling sets.
 struct SpellingChoice {
-    core::SpellingMode mode = core::SpellingMode::mostlyflats;
-    bool automatic = false;
-    bool mnusharp = false;
-    bool mnuflat = false;
-    bool mnumix1 = false;
-    bool mnumix2 = false;
+    core::SpellingMode mode;
+    bool automatic;
+    bool mnusharp;
+    bool mnuflat;
+    bool mnumix1;
+    bool mnumix2;
     std::optional<bool> mnuauto; ///< nothing: left as it was
-    BoldButton bold = BoldButton::none;
+    BoldButton bold;
 };
 
 namespace {
