@@ -144,11 +144,11 @@ private:
     bool temporary = false;
 };
 
-/// Where a link leads to that the system can follow, also where nothing stands there yet.
+/// Where a link leads to, as far as the system can follow it, also where nothing stands there yet.
 fs::path targetof(fs::path file)
 {
     std::error_code none;
-    while (fs::is_symlink(file, none))
+    while (fs::is_symlink(file, none) && fs::status(file, none).type() != fs::file_type::none)
         file = file.parent_path() / fs::read_symlink(file, none);
     return file;
 }
@@ -197,10 +197,12 @@ FileText readtext(const fs::path& file)
 std::error_code replacetext(const fs::path& file, std::string_view bytes)
 {
     struct stat old {};
-    const bool exists = ::stat(file.c_str(), &old) == 0;
-    if (!exists && errno != ENOENT)
+    if (::stat(file.c_str(), &old) != 0 && errno != ENOENT)
         return lastfailure();
     const fs::path target = targetof(file);
+    const bool exists = ::lstat(target.c_str(), &old) == 0;
+    if (!exists && errno != ENOENT)
+        return lastfailure();
     if (exists) {
         if (const auto refused = refusal(old.st_mode))
             return refused;

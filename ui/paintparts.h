@@ -8,7 +8,7 @@
 namespace ui {
 
 /// Paints a region one rectangle at a time, the painter clipped to it: a picture is copied only into a rectangle; into
-/// a region of several it is drawn span by span. `paint` gets the rectangle. The clip is off afterwards.
+/// a region of several it is drawn span by span. `paint` gets the rectangle. The painter is left as it was.
 template <typename Paint>
 void paintparts(QPainter& painter, const QRegion& region, Paint paint)
 {

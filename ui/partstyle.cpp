@@ -56,6 +56,7 @@ int PartStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, const
     case PM_ExclusiveIndicatorHeight:
         return qRound(indicator * look.zoom());
     case PM_ScrollBarExtent:
+    case PM_ScrollBarSliderMin:
         return qRound(QProxyStyle::pixelMetric(metric, option, widget) * look.zoom());
     case PM_FocusFrameHMargin:
         return qRound(itempadding * look.zoom());
@@ -81,9 +82,11 @@ QRect PartStyle::subElementRect(SubElement element, const QStyleOption* option, 
         return subElementRect(SE_CheckBoxIndicator, option, widget);
     if (element == SE_RadioButtonFocusRect)
         return subElementRect(SE_RadioButtonIndicator, option, widget);
-    const QRect whole = QProxyStyle::subElementRect(element, option, widget);
-    const int padding = element == SE_LineEditContents ? qRound(boxpadding * look.zoom()) : 0;
-    return whole.adjusted(padding, 0, -padding, 0);
+    const QRect place = QProxyStyle::subElementRect(element, option, widget);
+    if (element != SE_LineEditContents)
+        return place;
+    const int padding = qRound(boxpadding * look.zoom());
+    return place.adjusted(padding, 0, -padding, 0);
 }
 
 QSize PartStyle::sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& contents,
@@ -165,9 +168,10 @@ void PartStyle::drawComplexControl(ComplexControl control, const QStyleOptionCom
     const auto* bar = qstyleoption_cast<const QStyleOptionSlider*>(option);
     if (control != CC_ScrollBar || !bar)
         return QProxyStyle::drawComplexControl(control, option, painter, widget);
-    QStyleOptionSlider groove(*bar);
-    groove.subControls.setFlag(SC_ScrollBarSlider, false);
-    QProxyStyle::drawComplexControl(control, &groove, painter, widget);
+    painter->fillRect(bar->rect, look.theme().surface); // the platform would keep a picture of it for each palette
+    QStyleOptionSlider arrows(*bar);
+    arrows.subControls &= ~(SC_ScrollBarSlider | SC_ScrollBarGroove);
+    QProxyStyle::drawComplexControl(control, &arrows, painter, widget);
     if (bar->subControls.testFlag(SC_ScrollBarSlider))
         painthandle(*painter, *bar, subControlRect(control, bar, SC_ScrollBarSlider, widget));
 }

@@ -111,10 +111,10 @@ void SelectorBox::display(const QStringList& items, int index, const QString& te
 
 void SelectorBox::showPopup()
 {
-    setFont(look.font(Type::text));
-    setPalette(look.palettefor(look.theme().card));
     if (!trimmeditems) // not before: the list itself is made here
         makelist();
+    setFont(look.font(Type::text));
+    setPalette(look.palettefor(look.theme().card));
     const int scrollbar = style()->pixelMetric(QStyle::PM_ScrollBarExtent);
     view()->setMinimumWidth(view()->sizeHintForColumn(modelColumn()) + scrollbar); // or long names would be cut
     sincetyping.invalidate();
@@ -123,11 +123,11 @@ void SelectorBox::showPopup()
 
 void SelectorBox::makelist()
 {
-    auto* style = new PartStyle(look, this);
-    setStyle(style);
-    view()->setStyle(style);
+    auto* partstyle = new PartStyle(look, this);
+    setStyle(partstyle);
+    view()->setStyle(partstyle);
     view()->setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded); // the platform's style may have switched it off
-    view()->verticalScrollBar()->setStyle(style);
+    view()->verticalScrollBar()->setStyle(partstyle);
     view()->setItemDelegate(trimmeditems = new TrimmedItems(look, this));
     view()->installEventFilter(this);
 }

@@ -8,6 +8,7 @@
 #include <gtest/gtest.h>
 
 #include <array>
+#include <cerrno>
 #include <chrono>
 #include <csignal>
 #include <random>
@@ -99,6 +100,13 @@ TEST_F(TextFile, newFile_obeysTheUsersMask)
     EXPECT_FALSE(replacetext("file", "new"));
     ::umask(former);
     EXPECT_EQ(fs::status("file").permissions(), fs::perms{0640});
+}
+
+TEST_F(TextFile, endOfAFileAfterAnInterruption_isItsEnd)
+{
+    directory.write("empty", "");
+    errno = EINTR; // as an interrupted call leaves it
+    EXPECT_FALSE(readtext("empty").failure);
 }
 
 TEST_F(TextFile, link_staysAndItsTargetIsReplaced)

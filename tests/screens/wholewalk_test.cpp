@@ -89,6 +89,8 @@ protected:
             settle();
             gohome();
         }
+        session.camera = {};      // the walk is to be asked what it photographs,
+        session.customtable = {}; // and to begin without tunings
         EXPECT_EQ(unanswered(), "");
     }
 
