@@ -45,6 +45,7 @@ void linkto(const char* target)
 void linkfarto(const Directory& directory)
 {
     directory.write("kept/0", before);
+    protect("kept/0", 0666);
     for (int i = 1; i < 60; ++i)
         fs::create_symlink(std::to_string(i - 1), "kept/" + std::to_string(i));
     linkto("kept/59");
@@ -106,6 +107,20 @@ INSTANTIATE_TEST_SUITE_P(Places, BadPlace, testing::Values(
     PlaceRow{"link over many",       linkfarto,                                                         true,  "kept tonefret.txt",   ""}),
     [](const auto& row) { return tests::rowname(row.param.row); });
 // clang-format on
+
+TEST(FileBehindManyLinks, startAndQuit_leaveItAndTheLinks)
+{
+    const Directory directory;
+    fs::create_directory("kept");
+    linkfarto(directory);
+    {
+        Started s(directory);
+        s.session.tonefretexit();
+    }
+    EXPECT_EQ(directory.read("kept/0"), before);
+    for (int i = 1; i < 60; ++i)
+        EXPECT_TRUE(fs::is_symlink("kept/" + std::to_string(i))) << i;
+}
 
 TEST(SomebodyElsesFile, thatCannotBeReadOrRenamed_staysAndAMessageSaysSo)
 {

@@ -149,4 +149,14 @@ TEST(GoldenSwitch, on_fails)
     EXPECT_FALSE(tests::updatesgolden()) << "the golden files were written, not compared";
 }
 
+TEST(PadMirrored, lineOfTwoCharacters_readsForwardBeforeTheBlanks)
+{
+    print::ChordSnapshot shot;
+    shot.line[0] = "ab";
+    shot.line[1] = "a";
+    EXPECT_TRUE(print::padmirrored(shot, 4));
+    EXPECT_EQ(shot.line[0], "ab  ");
+    EXPECT_EQ(shot.line[1], "   a");
+}
+
 } // namespace

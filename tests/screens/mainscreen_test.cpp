@@ -96,6 +96,17 @@ TEST_F(MainScreenTest, openedLists_showTheirItemsWhole)
     EXPECT_EQ(shown(QStringLiteral("cbotuning"), "currentText"), longname); // the last family is the user's own
 }
 
+TEST_F(MainScreenTest, openedList_hasTheThemesColoursEachTime)
+{
+    auto* list = control<QComboBox>(QStringLiteral("cbotuning"));
+    for (int opening = 0; opening < 2; ++opening) {
+        list->showPopup();
+        EXPECT_EQ(list->view()->palette().color(QPalette::Base), program.look.theme().card) << opening;
+        EXPECT_EQ(list->view()->palette().color(QPalette::Highlight), program.look.theme().accent) << opening;
+        list->hidePopup();
+    }
+}
+
 TEST_F(MainScreenTest, longList_opensTwentyItemsHigh)
 {
     auto* list = control<QComboBox>(QStringLiteral("cbotuning"));
