@@ -77,11 +77,14 @@ void FocusRing::paint(QPainter& painter, const Look& look, const QWidget& contro
 void paintarrow(QPainter& painter, const Look& look, const QRectF& box, Qt::ArrowType direction, const QColor& colour)
 {
     const double reach = 3 * look.zoom();
-    const double towards = direction == Qt::LeftArrow ? -reach : reach;
-    const QPointF middle = box.center();
-    QPainterPath path(middle + QPointF(towards, 0));
-    path.lineTo(middle + QPointF(-towards, -1.3 * reach));
-    path.lineTo(middle + QPointF(-towards, 1.3 * reach));
+    const double towards = direction == Qt::LeftArrow || direction == Qt::UpArrow ? -reach : reach;
+    const bool upright = direction == Qt::UpArrow || direction == Qt::DownArrow;
+    const auto at = [&](double along, double across) {
+        return box.center() + (upright ? QPointF(across, along) : QPointF(along, across));
+    };
+    QPainterPath path(at(towards, 0));
+    path.lineTo(at(-towards, -1.3 * reach));
+    path.lineTo(at(-towards, 1.3 * reach));
     path.closeSubpath();
     painter.setRenderHint(QPainter::Antialiasing);
     painter.fillPath(path, colour);

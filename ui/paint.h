@@ -48,7 +48,7 @@ private:
     bool shown = false;
 };
 
-/// A solid triangle that points left or right, centred in `box`.
+/// A solid triangle that points in a direction, centred in `box`.
 void paintarrow(QPainter& painter, const Look& look, const QRectF& box, Qt::ArrowType direction, const QColor& colour);
 
 } // namespace ui

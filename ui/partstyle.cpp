@@ -168,12 +168,14 @@ void PartStyle::drawComplexControl(ComplexControl control, const QStyleOptionCom
     const auto* bar = qstyleoption_cast<const QStyleOptionSlider*>(option);
     if (control != CC_ScrollBar || !bar)
         return QProxyStyle::drawComplexControl(control, option, painter, widget);
-    painter->fillRect(bar->rect, look.theme().surface); // the platform would keep a picture of it for each palette
-    QStyleOptionSlider arrows(*bar);
-    arrows.subControls &= ~(SC_ScrollBarSlider | SC_ScrollBarGroove);
-    QProxyStyle::drawComplexControl(control, &arrows, painter, widget);
-    if (bar->subControls.testFlag(SC_ScrollBarSlider))
-        painthandle(*painter, *bar, subControlRect(control, bar, SC_ScrollBarSlider, widget));
+    // All of it: the platform's style would keep a picture of each part for each palette, and never let go of its name.
+    const auto place = [&](SubControl part) { return QRectF(subControlRect(control, bar, part, widget)); };
+    const bool upright = bar->orientation == Qt::Vertical;
+    painter->fillRect(bar->rect, look.theme().surface);
+    paintarrow(*painter, look, place(SC_ScrollBarSubLine), upright ? Qt::UpArrow : Qt::LeftArrow, look.theme().label);
+    paintarrow(*painter, look, place(SC_ScrollBarAddLine), upright ? Qt::DownArrow : Qt::RightArrow,
+               look.theme().label);
+    painthandle(*painter, *bar, place(SC_ScrollBarSlider));
 }
 
 void PartStyle::drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,

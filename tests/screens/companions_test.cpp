@@ -1,12 +1,14 @@
 // SPDX-FileCopyrightText: 2026 The tonefret developers
 // SPDX-License-Identifier: MIT
 #include "tests/screens/companionrows.h"
+#include "tests/screens/soundness.h"
 #include "ui/canvas.h"
 
 #include <QAbstractButton>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenuBar>
+#include <QPixmapCache>
 #include <QScreen>
 #include <QScrollBar>
 #include <QTextBlock>
@@ -123,6 +125,33 @@ TEST_P(Companions, screenAtTheDisplaysEdge_growsInwards)
     screen.move(room.right() - screen.width(), room.bottom() - screen.height());
     zoomto(2);
     EXPECT_TRUE(isondisplay());
+}
+
+TEST_P(Companions, openedAgainAndAgain_comeToNeedNoMoreMemory)
+{
+    const auto reopen = [this] {
+        open(GetParam());
+        QApplication::processEvents(); // it is painted
+        companion(GetParam().screen)->close();
+        desktop.answers.assign(1, ui::Answer::yes);
+        session.mnuphotoclear_Click(); // what was photographed on the way
+        desktop.asked.clear();
+        desktop.told.clear();
+        QApplication::processEvents();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        QPixmapCache::clear();
+    };
+    // What the toolkit keeps of glyphs and the like fills within the first stretches; a leak is in each of them.
+    constexpr int times = 25;
+    constexpr std::size_t noise = 100; // bytes for each time
+    bool steady = false;
+    for (int stretch = 0; stretch < 8 && !steady; ++stretch) {
+        const std::size_t held = tests::allocated();
+        for (int i = 0; i < times; ++i)
+            reopen();
+        steady = tests::allocated() < held + times * noise;
+    }
+    EXPECT_TRUE(steady);
 }
 
 INSTANTIATE_TEST_SUITE_P(Screens, Companions, testing::ValuesIn(tests::companionrows), tests::rowname);
