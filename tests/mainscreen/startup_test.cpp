@@ -17,10 +17,15 @@ using tests::Directory;
 using tests::RecordingDesktop;
 using tests::Started;
 
-TEST(BeforeStart, selectors_showTheirFirstTexts)
-{
+/// A session whose main screen was not loaded yet.
+class BeforeStart : public testing::Test {
+protected:
     RecordingDesktop desktop;
-    const mainscreen::Session session(desktop);
+    const mainscreen::Session session{desktop};
+};
+
+TEST_F(BeforeStart, selectors_showTheirFirstTexts)
+{
     EXPECT_EQ(session.cbopreset.text, "scroll to select ------>");
     EXPECT_EQ(session.cbotuning.text, "Standard Tuning");
     EXPECT_EQ(session.cboleft.text, "Right Hand");
@@ -29,10 +34,8 @@ TEST(BeforeStart, selectors_showTheirFirstTexts)
     EXPECT_EQ(session.keyboard.key[22].caption, "A# Bb");
 }
 
-TEST(BeforeStart, neck_hasSixStringsInSightAndNoCapo)
+TEST_F(BeforeStart, neck_hasSixStringsInSightAndNoCapo)
 {
-    RecordingDesktop desktop;
-    const mainscreen::Session session(desktop);
     EXPECT_TRUE(std::ranges::all_of(session.fretboard.cell, &instruments::Cell::visible));
     EXPECT_TRUE(std::ranges::all_of(session.fretboard.linevisible, std::identity{}));
     EXPECT_EQ(session.fretboard.rowtop, instruments::layoutrow(instruments::StringLayout::sixstrings).tops);
@@ -41,42 +44,60 @@ TEST(BeforeStart, neck_hasSixStringsInSightAndNoCapo)
     EXPECT_EQ(session.PositionFret, 0);
 }
 
-TEST(BeforeStart, camera_hasTakenNothing)
+TEST_F(BeforeStart, camera_hasTakenNothing)
 {
-    RecordingDesktop desktop;
-    const mainscreen::Session session(desktop);
     const print::Camera& camera = session.camera;
     EXPECT_EQ(camera.mode, print::CameraMode::strings);
-    EXPECT_FALSE(camera.modechosen || camera.marks.mnuguitar || camera.marks.mnupiano || camera.pending());
-    EXPECT_EQ(camera.SnapshotCount + camera.PageBlockCount + camera.BlockWidth + camera.RowWidth, 0);
+    EXPECT_FALSE(camera.modechosen);
+    EXPECT_FALSE(camera.marks.mnuguitar);
+    EXPECT_FALSE(camera.marks.mnupiano);
+    EXPECT_FALSE(camera.pending());
+    EXPECT_EQ(camera.SnapshotCount, 0);
+    EXPECT_EQ(camera.PageBlockCount, 0);
+    EXPECT_EQ(camera.BlockWidth, 0);
+    EXPECT_EQ(camera.RowWidth, 0);
     EXPECT_EQ(camera.fingering.TopFret, 0);
 }
 
-TEST(BeforeStart, page_isClosedAndEmpty)
+TEST_F(BeforeStart, page_isClosedAndEmpty)
 {
-    RecordingDesktop desktop;
-    const mainscreen::Session session(desktop);
-    EXPECT_FALSE(session.page.open || session.page.chkmult);
+    EXPECT_FALSE(session.page.open);
+    EXPECT_FALSE(session.page.chkmult);
     EXPECT_TRUE(session.page.chkalt);
     EXPECT_EQ(session.page.fontsize, 8);
     EXPECT_EQ(session.page.txtlines, "0");
-    EXPECT_EQ(session.page.text + session.page.kept, "");
+    EXPECT_EQ(session.page.text, "");
+    EXPECT_EQ(session.page.kept, "");
 }
 
-TEST(BeforeStart, nothing_isOpenMarkedOrChanged)
+TEST_F(BeforeStart, spelling_isMarkedNowhere)
 {
-    RecordingDesktop desktop;
-    const mainscreen::Session session(desktop);
-    EXPECT_FALSE(session.customshown || session.arrangeshown || session.customchanged);
-    EXPECT_TRUE(session.mnutips);
-    const mainscreen::SpellingMarks& marks = session.marks;
-    EXPECT_FALSE(marks.mnusharp || marks.mnuflat || marks.mnumix1 || marks.mnumix2 || marks.mnuauto || marks.mnuboth);
-    EXPECT_EQ(marks.bold, mainscreen::BoldButton::none);
-    EXPECT_EQ(session.chordindex, 0);
-    EXPECT_EQ(session.retune.row + session.retune.note, 0);
-    EXPECT_FALSE(session.editform.chkleft || session.editform.guarded());
+    EXPECT_FALSE(session.marks.mnusharp);
+    EXPECT_FALSE(session.marks.mnuflat);
+    EXPECT_FALSE(session.marks.mnumix1);
+    EXPECT_FALSE(session.marks.mnumix2);
+    EXPECT_FALSE(session.marks.mnuauto);
+    EXPECT_FALSE(session.marks.mnuboth);
+    EXPECT_EQ(session.marks.bold, mainscreen::BoldButton::none);
+}
+
+TEST_F(BeforeStart, editForm_isBlank)
+{
+    EXPECT_FALSE(session.editform.chkleft);
+    EXPECT_FALSE(session.editform.guarded());
     EXPECT_EQ(session.editform.txtnum(), " 0");
     EXPECT_EQ(session.editform.txtinfo, "- blank -");
+}
+
+TEST_F(BeforeStart, nothing_isOpenAskedForOrChanged)
+{
+    EXPECT_FALSE(session.customshown);
+    EXPECT_FALSE(session.arrangeshown);
+    EXPECT_FALSE(session.customchanged);
+    EXPECT_TRUE(session.mnutips);
+    EXPECT_EQ(session.chordindex, 0);
+    EXPECT_EQ(session.retune.row, 0);
+    EXPECT_EQ(session.retune.note, 0);
 }
 
 TEST(Start, capoSelector_hasSeventeenItemsAndNoneChosen)

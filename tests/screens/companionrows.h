@@ -37,7 +37,7 @@ inline void PrintTo(const CompanionRow& row, std::ostream* out)
 }
 
 /// What opens any of the screens.
-class CompanionsTest : public ScreenTest {
+class CompanionOpener : public ScreenTest {
 protected:
     ui::Companion& open(const CompanionRow& row)
     {
@@ -58,7 +58,7 @@ protected:
 };
 
 /// One of the screens, open.
-class CompanionTest : public CompanionsTest, public testing::WithParamInterface<CompanionRow> {
+class CompanionTest : public CompanionOpener, public testing::WithParamInterface<CompanionRow> {
 protected:
     CompanionTest() : screen(open(GetParam()))
     {

@@ -42,7 +42,7 @@ std::string courseof(const std::vector<std::size_t>& bytes)
     return line;
 }
 
-class WholeWalk : public tests::CompanionsTest {
+class WholeWalk : public tests::CompanionOpener {
 protected:
     static int steps()
     {
