@@ -137,15 +137,14 @@ TEST_P(Companions, openedAgainAndAgain_comeToNeedNoMoreMemory)
         session.mnuphotoclear_Click(); // what was photographed on the way
         desktop.asked.clear();
         desktop.told.clear();
-        QApplication::processEvents();
-        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        settle();
         QPixmapCache::clear();
     };
     // What the toolkit keeps of glyphs and the like fills within the first stretches; a leak is in each of them.
     constexpr int times = 25;
-    constexpr std::size_t noise = 100; // bytes for each time
+    constexpr std::size_t noise = 64; // bytes for each time
     bool steady = false;
-    for (int stretch = 0; stretch < 8 && !steady; ++stretch) {
+    for (int stretch = 0; stretch < 20 && !steady; ++stretch) {
         const std::size_t held = tests::allocated();
         for (int i = 0; i < times; ++i)
             reopen();

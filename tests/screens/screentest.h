@@ -97,6 +97,13 @@ protected:
         return found.back();
     }
 
+    /// What happens by itself after an event.
+    static void settle()
+    {
+        QApplication::processEvents();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    }
+
     void click(const QString& name) { QTest::mouseClick(control(name), Qt::LeftButton); }
     void pick(const QString& action) { control<QAction>(action)->trigger(); }
 

@@ -106,13 +106,6 @@ protected:
         QPixmapCache::clear();
     }
 
-    /// What happens by itself after an event.
-    static void settle()
-    {
-        QApplication::processEvents();
-        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    }
-
     /// The screens over the main one that are there, open or closed; one that was closed goes when it is opened anew.
     QList<QWidget*> companions() const
     {
