@@ -9,9 +9,7 @@
 #include <QAbstractScrollArea>
 #include <QMenuBar>
 #include <QPainter>
-#include <QScrollBar>
 
-#include <initializer_list>
 #include <utility>
 
 namespace ui {
@@ -69,8 +67,7 @@ void Companion::fitbox(QLineEdit* box)
 
 void Companion::fitarea(QAbstractScrollArea* area)
 {
-    for (QWidget* part : std::initializer_list<QWidget*>{area, area->verticalScrollBar(), area->horizontalScrollBar()})
-        part->setStyle(partstyle);
+    partstyle->dress(*area);
     fit([this, area] { area->setPalette(look.palettefor(look.theme().card)); });
 }
 

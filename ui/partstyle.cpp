@@ -7,8 +7,10 @@
 #include <QApplication>
 #include <QPainterPath>
 #include <QRadioButton>
+#include <QScrollBar>
 
 #include <algorithm>
+#include <initializer_list>
 
 namespace ui {
 namespace {
@@ -45,6 +47,12 @@ PartStyle::PartStyle(const Look& shownlook, QObject* owner)
     : QProxyStyle(QApplication::style()->name()), look(shownlook)
 {
     setParent(owner);
+}
+
+void PartStyle::dress(QAbstractScrollArea& area)
+{
+    for (QWidget* part : std::initializer_list<QWidget*>{&area, area.verticalScrollBar(), area.horizontalScrollBar()})
+        part->setStyle(this);
 }
 
 int PartStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const

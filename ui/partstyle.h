@@ -4,6 +4,7 @@
 
 #include "ui/look.h"
 
+#include <QAbstractScrollArea>
 #include <QProxyStyle>
 #include <QStyleOption>
 
@@ -11,10 +12,13 @@ namespace ui {
 
 /// The desktop's style for the platform's own controls, with edges, marks and the ring of the keyboard in the program's
 /// look: check boxes and option buttons that grow with the text beside them, boxes and areas for text, their scroll
-/// bars, and menu bars whose titles stand apart as their type is large.
+/// bars, lists that open below their box, and menu bars whose titles stand apart as their type is large.
 class PartStyle : public QProxyStyle {
 public:
     PartStyle(const Look& shownlook, QObject* owner);
+
+    /// Gives an area its look, and its scroll bars, which take no style from it. The style has to outlive it.
+    void dress(QAbstractScrollArea& area);
 
     /// The height of a menu bar whose type is `typepixels` high. It takes no font: the size of a window is asked for
     /// before its first text.

@@ -11,7 +11,6 @@
 #include <QKeyEvent>
 #include <QPainter>
 #include <QPainterPath>
-#include <QScrollBar>
 #include <QSignalBlocker>
 #include <QStyledItemDelegate>
 
@@ -125,9 +124,8 @@ void SelectorBox::makelist()
 {
     auto* partstyle = new PartStyle(look, this);
     setStyle(partstyle);
-    view()->setStyle(partstyle);
+    partstyle->dress(*view());
     view()->setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded); // the platform's style may have switched it off
-    view()->verticalScrollBar()->setStyle(partstyle);
     view()->setItemDelegate(trimmeditems = new TrimmedItems(look, this));
     view()->installEventFilter(this);
 }
