@@ -11,11 +11,11 @@
 namespace print {
 namespace {
 
-constexpr PageSettings first{};
+constexpr PageSettings defaults{};
 
-std::int16_t orfirst(std::int16_t number, std::int16_t firstnumber)
+std::int16_t ordefault(std::int16_t number, std::int16_t defaultnumber)
 {
-    return number == 0 ? firstnumber : number;
+    return number == 0 ? defaultnumber : number;
 }
 
 bool store(const std::string& box, int least, int most, std::int16_t& setting)
@@ -74,15 +74,15 @@ void Page::clear()
 
 void setpagedefaults(PageSettings& settings)
 {
-    settings.charactersperline = orfirst(settings.charactersperline, first.charactersperline);
-    settings.spacing = orfirst(settings.spacing, first.spacing);
-    settings.fontsize = orfirst(settings.fontsize, first.fontsize);
+    settings.charactersperline = ordefault(settings.charactersperline, defaults.charactersperline);
+    settings.spacing = ordefault(settings.spacing, defaults.spacing);
+    settings.fontsize = ordefault(settings.fontsize, defaults.fontsize);
 }
 
 void setmargindefaults(PageSettings& settings)
 {
-    settings.topmargin = orfirst(settings.topmargin, first.topmargin);
-    settings.leftmargin = orfirst(settings.leftmargin, first.leftmargin);
+    settings.topmargin = ordefault(settings.topmargin, defaults.topmargin);
+    settings.leftmargin = ordefault(settings.leftmargin, defaults.leftmargin);
 }
 
 bool storeboxes(const Page& page, PageSettings& settings)

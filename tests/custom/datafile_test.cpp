@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The tonefret developers
 // SPDX-License-Identifier: MIT
 #include "custom/datafile.h"
+#include "tests/support/headers.h"
 #include "tests/support/huge.h"
 #include "tests/support/names.h"
 
@@ -22,9 +23,8 @@ namespace {
 using custom::CustomTable;
 using custom::Reading;
 using custom::Unpacked;
-
-const std::string settings = "00 72 4 801 3 6000 0";
-const std::string guitar = "Tonefret:       GUITAR;" + settings + ";";
+using tests::guitar;
+using tests::settings;
 
 /// The entries as "name;data;name;data;", a free place before the last as ";;".
 std::string told(const CustomTable& entries)

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The tonefret developers
 // SPDX-License-Identifier: MIT
 #include "tests/instruments/cataloguerows.h"
+#include "tests/support/colours.h"
 #include "tests/support/names.h"
 #include "tests/support/started.h"
 
@@ -15,12 +16,12 @@
 namespace {
 
 using tests::CatalogueRow;
+using tests::dark;
+using tests::mid;
+using tests::rest;
 using tests::Started;
 using tests::Strings;
 
-constexpr core::Colour dark = 0x808080;
-constexpr core::Colour mid = 0xC0C0C0;
-constexpr core::Colour rest = 0xFFFFFF;
 constexpr int showall = 16; ///< the last capo choice
 
 /// The frets of one row that a capo choice examines, both included.

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The tonefret developers
 // SPDX-License-Identifier: MIT
 #include "instruments/fretboard.h"
+#include "tests/support/colours.h"
 #include "tests/support/names.h"
 
 #include <gtest/gtest.h>
@@ -9,11 +10,10 @@ namespace {
 
 using instruments::Fretboard;
 using instruments::StringLayout;
+using tests::dark;
+using tests::mid;
+using tests::rest;
 using tests::spelling;
-
-constexpr core::Colour dark = 0x808080;
-constexpr core::Colour mid = 0xC0C0C0;
-constexpr core::Colour rest = 0xFFFFFF;
 
 std::string rowtext(const Fretboard& board, int row)
 {

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The tonefret developers
 // SPDX-License-Identifier: MIT
 #include "tests/support/fulldisk.h"
+#include "tests/support/headers.h"
 #include "tests/support/huge.h"
 #include "tests/support/names.h"
 #include "tests/support/started.h"
@@ -13,11 +14,11 @@ namespace {
 
 namespace fs = std::filesystem;
 using tests::Directory;
+using tests::guitar;
+using tests::settings;
 using tests::Started;
 using tests::Told;
 
-const std::string settings = "00 72 4 801 3 6000 0";
-const std::string guitar = "Tonefret:       GUITAR;" + settings + ";";
 const std::string custom = "Tonefret:       CUSTOM;" + settings + ";";
 constexpr const char* datafile = "tonefret.txt";
 const Told aborting{ui::Icon::information, "Problem with Option Custom Data; am aborting"};

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The tonefret developers
 // SPDX-License-Identifier: MIT
 #include "tests/support/fulldisk.h"
+#include "tests/support/headers.h"
 #include "tests/support/started.h"
 
 #include <gtest/gtest.h>
@@ -9,13 +10,13 @@ namespace {
 
 namespace fs = std::filesystem;
 using tests::Asked;
+using tests::guitar;
 using tests::PickAsked;
+using tests::settings;
 using tests::Started;
 using tests::Told;
 using ui::Answer;
 
-const std::string settings = "00 72 4 801 3 6000 0";
-const std::string guitar = "Tonefret:       GUITAR;" + settings + ";";
 const Asked overwrite{"Overwrite existing file?", "Overwrite File Message"};
 
 /// A session beside which files can be picked.

@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The tonefret developers
 // SPDX-License-Identifier: MIT
+#include "tests/support/colours.h"
 #include "tests/support/names.h"
 #include "tests/support/started.h"
 
@@ -7,10 +8,9 @@
 
 namespace {
 
+using tests::dark;
+using tests::mid;
 using tests::Started;
-
-constexpr core::Colour dark = 0x808080;
-constexpr core::Colour mid = 0xC0C0C0;
 
 /// Marks a cell as no procedure would, to see whether the board is coloured anew.
 constexpr std::size_t markedcell = 119;
