@@ -5,11 +5,6 @@
 #include <QPainter>
 
 namespace custom {
-namespace {
-
-constexpr double corner = 4;
-
-} // namespace
 
 NoteBox::NoteBox(const ui::Look& shownlook, QWidget* parent) : NoteButton(shownlook, core::nocolour, parent)
 {
@@ -18,6 +13,7 @@ NoteBox::NoteBox(const ui::Look& shownlook, QWidget* parent) : NoteButton(shownl
 
 void NoteBox::paintEvent(QPaintEvent* /*event*/)
 {
+    constexpr double corner = 4;
     QPainter painter(this);
     const ui::Theme& theme = look.theme();
     ui::paintbox(painter, look, rect(), underMouse() ? theme.hover : theme.button,

@@ -7,18 +7,14 @@
 #include <utility>
 
 namespace help {
-namespace {
-
-constexpr int picturewidth = 700; ///< pixels at zoom 1
-constexpr int captionsinrow = 4;
-
-} // namespace
 
 PictureScreen::PictureScreen(const ui::Look& mainlook, std::function<Portrait()> camera, QWidget* owner)
     : Companion(mainlook, owner, Qt::Window), portraits(std::move(camera))
 {
     setObjectName(QStringLiteral("helppicture"));
     setWindowTitle(QStringLiteral("The main screen"));
+    constexpr int picturewidth = 700; // pixels at zoom 1
+    constexpr int captionsinrow = 4;
     auto* column = new QVBoxLayout;
     auto* picture = image(*this, portraits, &Portrait::whole, picturewidth);
     picture->setObjectName(QStringLiteral("mainpicture"));
