@@ -5,6 +5,10 @@
 #include <QStandardPaths>
 #include <QTest>
 
+#include <sys/socket.h>
+#include <sys/un.h>
+#include <unistd.h>
+
 #include <stdexcept>
 
 namespace tests {
@@ -23,7 +27,6 @@ constexpr const char* access = "Browsing Off\n"
                                "Allow all\n"
                                "</Location>\n";
 
-/// Takes a job as the printer: the sixth argument is its file.
 /// Takes a job as the printer: the first argument is its number, the sixth its file.
 constexpr const char* backend = "#!/bin/sh\n"
                                 "[ $# -lt 6 ] && exit 0\n"
@@ -36,6 +39,18 @@ QString program()
     const QString found = QStandardPaths::findExecutable(QStringLiteral("cupsd"));
     return found.isEmpty() ? QStandardPaths::findExecutable(QStringLiteral("cupsd"), {QStringLiteral("/usr/sbin")})
                            : found;
+}
+
+/// Whether somebody listens at a socket. For a moment it is there, and refuses.
+bool isheard(const fs::path& path)
+{
+    sockaddr_un address{};
+    address.sun_family = AF_UNIX;
+    path.string().copy(address.sun_path, sizeof address.sun_path - 1);
+    const int caller = ::socket(AF_UNIX, SOCK_STREAM, 0);
+    const bool heard = ::connect(caller, reinterpret_cast<const sockaddr*>(&address), sizeof address) == 0;
+    ::close(caller);
+    return heard;
 }
 
 std::string filesof(const fs::path& folder)
@@ -89,7 +104,7 @@ void Scheduler::start(Queue queue)
     const QString at = QString::fromStdString(folder.path.string());
     server.start(program(), {QStringLiteral("-f"), QStringLiteral("-c"), at + QStringLiteral("/cupsd.conf"),
                              QStringLiteral("-s"), at + QStringLiteral("/cups-files.conf")});
-    if (!QTest::qWaitFor([this] { return fs::is_socket(folder.path / "socket"); }, patience))
+    if (!QTest::qWaitFor([this] { return isheard(folder.path / "socket"); }, patience))
         throw std::runtime_error("the scheduler does not start: " + log());
 }
 
