@@ -9,8 +9,6 @@
 namespace custom {
 namespace {
 
-constexpr core::PitchClass lastselectable = 12;
-
 std::size_t boxcount(instruments::StringLayout choice)
 {
     return stringcount - static_cast<std::size_t>(instruments::layoutrow(choice).firstrow);
@@ -105,7 +103,7 @@ void EditForm::txtnote_Click(std::size_t box)
         return;
     if (!mayedit())
         txtnote.at(box) = storednote(box);
-    else if (selected > lastselectable)
+    else if (selected == core::nonote)
         desktop.tell(ui::Icon::information, "Please press a gray note button first");
     else
         txtnote.at(box) = spelling.nameof(selected);
