@@ -56,6 +56,7 @@ const TextCase textcases[] = {
   { "line",                    R"(one\line two)",                                {"one\u2028two"} },
   { "hard_blank",              R"(one\~two)",                                    {"one\u00A0two"} },
   { "quotes_and_dashes",       R"(\ldblquote a\rdblquote\emdash\rquote)",       {"\u201Ca\u201D\u2014\u2019"} },
+  { "spaces_and_signs",        R"(a\emspace b\enspace c\endash\bullet\lquote)", {"a\u2003b\u2002c\u2013\u2022\u2018"} },
   { "windows_1252",            R"(\'e9\'80\'95)",                                {"\u00E9\u20AC\u2022"} },
   { "raw_byte",                "\xE9",                                          {"\u00E9"} },
   { "windows_1250",            R"(\ansicpg1250 \'e8)",                           {"\u010D"} },
